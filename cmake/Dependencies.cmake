@@ -1,0 +1,10 @@
+# Third-party libraries, all from Debian packages (scripts/install-deps.sh).
+find_package(PkgConfig REQUIRED)
+find_package(Threads REQUIRED)
+find_package(ICU REQUIRED COMPONENTS uc i18n data)
+find_package(OpenSSL REQUIRED COMPONENTS Crypto)
+find_package(pugixml REQUIRED)
+pkg_check_modules(PCRE2 REQUIRED IMPORTED_TARGET libpcre2-8)
+pkg_check_modules(UUID REQUIRED IMPORTED_TARGET uuid)
+find_package(GTest)
+find_package(benchmark QUIET)

@@ -1,0 +1,32 @@
+#!/usr/bin/env bash
+# Installs the Debian packages that Tarnwick's build, tests and benchmarks need.
+# Idempotent: when everything is present it only checks and returns.
+set -euo pipefail
+
+packages=(
+  build-essential g++ cmake ninja-build pkg-config ccache make git
+  libgtest-dev libgmock-dev libbenchmark-dev
+  libicu-dev libpcre2-dev libpugixml-dev libssl-dev uuid-dev
+  libjpeg62-turbo-dev libpng-dev libtiff-dev libgif-dev
+  python3
+)
+
+missing=()
+for p in "${packages[@]}"; do
+  if ! dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q 'install ok installed'; then
+    missing+=("$p")
+  fi
+done
+
+if [ ${#missing[@]} -eq 0 ]; then
+  exit 0
+fi
+
+echo "install-deps: installing ${missing[*]}"
+sudo_cmd=()
+if [ "$(id -u)" -ne 0 ]; then
+  sudo_cmd=(sudo)
+fi
+export DEBIAN_FRONTEND=noninteractive
+"${sudo_cmd[@]}" apt-get update -qq
+"${sudo_cmd[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}"

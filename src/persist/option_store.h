@@ -1,0 +1,52 @@
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace tarnwick {
+
+// The user's persistent preferences: named text values in sections
+// ("Options", "AutoUpdate", "ManualRename", "Playlist", "XML").
+//
+// Kept in one INI file, $XDG_CONFIG_HOME/Oakhollow/Tarnwick.ini. Every value is
+// a string; an empty stored value reads as missing. Reads are cheap (the
+// parsed file is cached and re-read only when the file changed on disk), and
+// every write merges under a lock and replaces the file atomically, so two
+// running copies never lose each other's keys. Failures are silent: a read
+// that fails returns the default, a write that fails is lost.
+class OptionStore {
+ public:
+  // The store of the current user (honours XDG_CONFIG_HOME).
+  static OptionStore ForCurrentUser();
+  static std::filesystem::path DefaultFile();
+
+  explicit OptionStore(std::filesystem::path file);
+  ~OptionStore();
+  OptionStore(OptionStore&&) noexcept;
+  OptionStore& operator=(OptionStore&&) noexcept;
+
+  // The stored value when it has at least one character, else `default_value`.
+  // Never writes the default back.
+  std::string GetOption(std::string_view name, std::string_view section,
+                        std::string_view default_value) const;
+  // Stores `value` as a string, creating the section when needed.
+  void SaveOption(std::string_view name, std::string_view section, std::string_view value);
+  // Removes a whole section with every key in it (crash recovery deletes "Options").
+  void DeleteSection(std::string_view section);
+
+  // For listings: the sections in file order, and the keys of one section.
+  std::vector<std::string> Sections() const;
+  std::vector<std::pair<std::string, std::string>> ListSection(std::string_view section) const;
+
+  const std::filesystem::path& file() const;
+
+ private:
+  struct Impl;
+  std::unique_ptr<Impl> impl_;
+};
+
+}  // namespace tarnwick
