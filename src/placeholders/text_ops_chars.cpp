@@ -5,124 +5,117 @@
 #include <unicode/utf8.h>
 
 namespace tarnwick::text_ops_detail {
-
-std::vector<std::string> SplitCharacters(std::string_view text) {
-  std::vector<std::string> out;
-  int32_t i = 0;
-  const int32_t n = static_cast<int32_t>(text.size());
-  while (i < n) {
-    const int32_t start = i;
-    UChar32 c;
-    U8_NEXT(text.data(), i, n, c);
-    if (c < 0) i = start + 1;
-    out.emplace_back(text.substr(start, i - start));
-  }
-  return out;
-}
-
-std::string Join(const std::vector<std::string>& chars) {
-  std::string s;
-  for (const auto& c : chars) s += c;
-  return s;
-}
-
 namespace {
-template <typename F>
-std::string MapChars(std::string_view text, F f) {
+
+void AppendCodePoint(std::string& out, UChar32 c) {
+  char buffer[U8_MAX_LENGTH];
+  int32_t length = 0;
+  UBool failed = false;
+  U8_APPEND(buffer, length, U8_MAX_LENGTH, c, failed);
+  if (!failed) out.append(buffer, length);
+}
+
+template <typename Map>
+std::string MapCodePoints(std::string_view text, Map map) {
   std::string out;
-  int32_t i = 0;
-  const int32_t n = static_cast<int32_t>(text.size());
-  while (i < n) {
+  const auto length = static_cast<int32_t>(text.size());
+  for (int32_t i = 0; i < length;) {
     const int32_t start = i;
-    UChar32 c;
-    U8_NEXT(text.data(), i, n, c);
+    UChar32 c = -1;
+    U8_NEXT(text.data(), i, length, c);
     if (c < 0) {
       i = start + 1;
       out += text[start];
       continue;
     }
-    UChar32 m = f(c);
-    char buf[4];
-    int32_t len = 0;
-    UBool err = false;
-    U8_APPEND(buf, len, 4, m, err);
-    out.append(buf, len);
+    AppendCodePoint(out, map(c));
   }
   return out;
 }
+
 }  // namespace
 
-std::string UpperOf(std::string_view text) { return MapChars(text, u_toupper); }
-std::string LowerOf(std::string_view text) { return MapChars(text, u_tolower); }
+std::vector<std::string> SplitCharacters(std::string_view text) {
+  std::vector<std::string> chars;
+  const auto length = static_cast<int32_t>(text.size());
+  for (int32_t i = 0; i < length;) {
+    const int32_t start = i;
+    UChar32 c = -1;
+    U8_NEXT(text.data(), i, length, c);
+    if (c < 0) i = start + 1;
+    chars.emplace_back(text.substr(start, i - start));
+  }
+  return chars;
+}
+
+std::string Join(const std::vector<std::string>& chars) {
+  std::string text;
+  for (const std::string& c : chars) text += c;
+  return text;
+}
+
+std::optional<char32_t> CodePointOf(std::string_view character) {
+  int32_t i = 0;
+  UChar32 c = -1;
+  U8_NEXT(character.data(), i, static_cast<int32_t>(character.size()), c);
+  if (c < 0) return std::nullopt;
+  return static_cast<char32_t>(c);
+}
+
+std::string UpperOf(std::string_view text) { return MapCodePoints(text, u_toupper); }
+std::string LowerOf(std::string_view text) { return MapCodePoints(text, u_tolower); }
 
 bool ContainsIgnoringCase(std::string_view text, std::string_view find) {
   return LowerOf(text).find(LowerOf(find)) != std::string::npos;
 }
+
 bool StartsWithIgnoringCase(std::string_view text, std::string_view prefix) {
-  return LowerOf(text).rfind(LowerOf(prefix), 0) == 0;
+  return LowerOf(text).starts_with(LowerOf(prefix));
 }
 
 std::string TrimBlanks(std::string_view text) {
-  const auto b = text.find_first_not_of(' ');
-  if (b == std::string_view::npos) return {};
-  const auto e = text.find_last_not_of(' ');
-  return std::string(text.substr(b, e - b + 1));
+  const std::size_t first = text.find_first_not_of(' ');
+  if (first == std::string_view::npos) return {};
+  return std::string(text.substr(first, text.find_last_not_of(' ') - first + 1));
 }
+
 std::string RTrimBlanks(std::string_view text) {
-  const auto e = text.find_last_not_of(' ');
-  if (e == std::string_view::npos) return {};
-  return std::string(text.substr(0, e + 1));
+  const std::size_t last = text.find_last_not_of(' ');
+  if (last == std::string_view::npos) return {};
+  return std::string(text.substr(0, last + 1));
 }
 
-std::string ToCodePage(std::string_view utf8, const char* code_page, bool* lossless) {
-  *lossless = true;
+SingleByteCodePage::SingleByteCodePage(const char* name) {
   UErrorCode status = U_ZERO_ERROR;
-  UConverter* conv = ucnv_open(code_page, &status);
-  ucnv_setFromUCallBack(conv, UCNV_FROM_U_CALLBACK_STOP, nullptr, nullptr, nullptr, &status);
-  std::string out;
-  int32_t i = 0;
-  const int32_t n = static_cast<int32_t>(utf8.size());
-  while (i < n) {
-    UChar32 c;
-    const int32_t start = i;
-    U8_NEXT(utf8.data(), i, n, c);
-    if (c < 0 || c > 0xFFFF) {
-      *lossless = false;
-      i = start + 1;
-      continue;
-    }
-    UChar u = static_cast<UChar>(c);
-    char buf[8];
+  UConverter* converter = ucnv_open(name, &status);
+  if (U_FAILURE(status)) return;
+  for (int b = 0; b < 256; ++b) {
+    const char byte = static_cast<char>(b);
+    UChar unit[2];
     status = U_ZERO_ERROR;
-    int32_t len = ucnv_fromUChars(conv, buf, 8, &u, 1, &status);
-    if (U_FAILURE(status) || len != 1) {
-      *lossless = false;
-      continue;
-    }
-    out += buf[0];
+    ucnv_resetToUnicode(converter);
+    const int32_t units = ucnv_toUChars(converter, unit, 2, &byte, 1, &status);
+    if (U_FAILURE(status) || units != 1 || unit[0] == 0xfffd) continue;
+    AppendCodePoint(text_of_[b], unit[0]);
+    byte_of_.emplace(unit[0], static_cast<unsigned char>(b));
   }
-  ucnv_close(conv);
-  return out;
+  ucnv_close(converter);
 }
 
-std::string FromCodePage(std::string_view bytes, const char* code_page) {
-  UErrorCode status = U_ZERO_ERROR;
-  UConverter* conv = ucnv_open(code_page, &status);
-  std::string out;
-  for (char b : bytes) {
-    UChar u[4];
-    status = U_ZERO_ERROR;
-    int32_t len = ucnv_toUChars(conv, u, 4, &b, 1, &status);
-    for (int32_t k = 0; k < len; ++k) {
-      char buf[4];
-      int32_t l = 0;
-      UBool err = false;
-      U8_APPEND(buf, l, 4, u[k], err);
-      out.append(buf, l);
-    }
-  }
-  ucnv_close(conv);
-  return out;
+const SingleByteCodePage& SingleByteCodePage::Windows1252() {
+  static const SingleByteCodePage code_page("windows-1252");
+  return code_page;
+}
+
+const SingleByteCodePage& SingleByteCodePage::Oem850() {
+  static const SingleByteCodePage code_page("ibm-850");
+  return code_page;
+}
+
+std::optional<unsigned char> SingleByteCodePage::ByteOf(char32_t code_point) const {
+  const auto it = byte_of_.find(code_point);
+  if (it == byte_of_.end()) return std::nullopt;
+  return it->second;
 }
 
 }  // namespace tarnwick::text_ops_detail

@@ -5,43 +5,43 @@
 namespace tarnwick {
 namespace {
 
-constexpr const char* kAnsi = "windows-1252";
-constexpr const char* kOem = "ibm-850";
+using text_ops_detail::SingleByteCodePage;
 
-// One character through `from` bytes and `to` bytes: its byte in the code
-// page `from` read as a byte of the code page `to`... both ways the result is
-// read back as text. A character without a byte in the first code page, or
-// whose byte has no character in the second, passes unchanged.
-std::string Convert(std::string_view text, const char* encode_with, const char* decode_with) {
-  std::string out;
-  for (const std::string& c : text_ops_detail::SplitCharacters(text)) {
-    bool lossless = false;
-    const std::string byte = text_ops_detail::ToCodePage(c, encode_with, &lossless);
-    if (!lossless || byte.size() != 1) {
-      out += c;
-      continue;
-    }
-    const std::string converted = text_ops_detail::FromCodePage(byte, decode_with);
-    out += converted.empty() ? c : converted;
-  }
-  return out;
+// One character: its byte in `encode`, read as a character of `decode`. A
+// character that `encode` lacks passes unchanged.
+std::string Recode(const std::string& c, const SingleByteCodePage& encode,
+                   const SingleByteCodePage& decode) {
+  const std::optional<char32_t> code_point = text_ops_detail::CodePointOf(c);
+  if (!code_point) return c;
+  const std::optional<unsigned char> byte = encode.ByteOf(*code_point);
+  if (!byte) return c;
+  const std::string& decoded = decode.TextOf(*byte);
+  return decoded.empty() ? c : decoded;
 }
 
 }  // namespace
 
-// CharToOem on the ANSI bytes, read back as ANSI: the character's OEM byte
-// shown as the ANSI character of that byte ("ö" -> "”").
+// CharToOem on the ANSI text, read back as ANSI: a character's OEM byte shown
+// as the ANSI character of that byte ("ö" -> "”"). A character outside either
+// code page is kept.
 std::string ConvertAnsiToOem(std::string_view text) {
+  const SingleByteCodePage& ansi = SingleByteCodePage::Windows1252();
   std::string out;
   for (const std::string& c : text_ops_detail::SplitCharacters(text)) {
-    bool in_ansi = false;
-    text_ops_detail::ToCodePage(c, kAnsi, &in_ansi);
-    out += in_ansi ? Convert(c, kOem, kAnsi) : c;
+    const std::optional<char32_t> code_point = text_ops_detail::CodePointOf(c);
+    const bool in_ansi = code_point && ansi.ByteOf(*code_point);
+    out += in_ansi ? Recode(c, SingleByteCodePage::Oem850(), ansi) : c;
   }
   return out;
 }
 
 // OemToChar on the ANSI bytes: each ANSI byte read as an OEM character.
-std::string ConvertOemToAnsi(std::string_view text) { return Convert(text, kAnsi, kOem); }
+std::string ConvertOemToAnsi(std::string_view text) {
+  std::string out;
+  for (const std::string& c : text_ops_detail::SplitCharacters(text)) {
+    out += Recode(c, SingleByteCodePage::Windows1252(), SingleByteCodePage::Oem850());
+  }
+  return out;
+}
 
 }  // namespace tarnwick
