@@ -68,11 +68,13 @@ std::string RemoveBrackets(std::string_view text) {
   return KeepBytes(text, [&](char c) { return kBrackets.find(c) == std::string_view::npos; });
 }
 
-std::string RemoveRepeatedChars(std::string_view text, bool to_upper) {
+std::string RemoveRepeatedChars(std::string_view text, bool to_upper,
+                                const std::function<void()>& yield) {
   std::string result;
   for (std::string c : SplitCharacters(text)) {
     if (to_upper) c = UpperOf(c);
     if (!text_ops_detail::ContainsIgnoringCase(result, c)) result += c;
+    if (yield) yield();
   }
   return result;
 }

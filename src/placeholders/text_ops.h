@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -33,8 +34,10 @@ std::string RemoveChars(std::string_view text);
 
 // {{remove_repeatedChars}} passes false. Every character that already stands
 // in the result (case-insensitive) is dropped, not only neighbours; with
-// `to_upper` each character is upper-cased first.
-std::string RemoveRepeatedChars(std::string_view text, bool to_upper);
+// `to_upper` each character is upper-cased first. `yield`, if given, runs
+// after every character, so the window system can breathe on long texts.
+std::string RemoveRepeatedChars(std::string_view text, bool to_upper,
+                                const std::function<void()>& yield = nullptr);
 
 // {{remove_brackets}}: the characters ( ) [ ] { } removed.
 std::string RemoveBrackets(std::string_view text);

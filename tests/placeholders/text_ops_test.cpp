@@ -46,6 +46,9 @@ TEST(TextOpsTest, RemoveRepeatedCharsDropsEveryRepetition) {
   EXPECT_EQ(RemoveRepeatedChars("äÄö", false), "äö");
   EXPECT_EQ(RemoveRepeatedChars("abcAbC", true), "ABC");
   EXPECT_EQ(RemoveRepeatedChars("", false), "");
+  int yields = 0;
+  EXPECT_EQ(RemoveRepeatedChars("xäx", false, [&] { ++yields; }), "xä");
+  EXPECT_EQ(yields, 3);
 }
 
 TEST(TextOpsTest, AnsiAndOemConversionsGoThroughTheBytes) {
