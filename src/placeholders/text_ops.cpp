@@ -41,6 +41,10 @@ std::string MakeZeroMask(std::string_view text) {
   return std::string(SplitCharacters(text).size(), '0');
 }
 
+std::string DynamicZeroMask(std::size_t selected_count) {
+  return MakeZeroMask(std::to_string(selected_count));
+}
+
 std::string FirstCharUpper(std::string_view text) { return ChangeFirst(text, true); }
 std::string FirstCharLower(std::string_view text) { return ChangeFirst(text, false); }
 

@@ -16,6 +16,11 @@ namespace tarnwick {
 // As many characters "0" as the text is long: the mask of the counter tokens.
 std::string MakeZeroMask(std::string_view text);
 
+// As many characters "0" as the number of selected rows has digits: the mask
+// of {{countDynamic}} and {{random_number_byFilecount}}. The caller passes the
+// list's selected-row count.
+std::string DynamicZeroMask(std::size_t selected_count);
+
 // {{firstcharuppercasing}}, {{firstcharlowercasing}}: the first character's
 // case changed, the rest unchanged.
 std::string FirstCharUpper(std::string_view text);

@@ -95,6 +95,9 @@ TEST(TextOpsTest, ZeroMaskCountsCharacters) {
   EXPECT_EQ(MakeZeroMask("001"), "000");
   EXPECT_EQ(MakeZeroMask("äöü"), "000");
   EXPECT_EQ(MakeZeroMask(""), "");
+  EXPECT_EQ(DynamicZeroMask(1500), "0000");
+  EXPECT_EQ(DynamicZeroMask(3), "0");
+  EXPECT_EQ(DynamicZeroMask(0), "0");
 }
 
 TEST(TextOpsTest, TrimRightKeepsTheExtension) {
