@@ -1,5 +1,6 @@
 #include "placeholders/picker.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "placeholders/text_ops_chars.h"

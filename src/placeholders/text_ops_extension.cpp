@@ -1,4 +1,5 @@
 // The text operations that work on the base of a name and keep its extension.
+#include <algorithm>
 #include <vector>
 
 #include "placeholders/number_words.h"
