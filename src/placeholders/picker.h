@@ -33,6 +33,10 @@ class PatternPicker {
               std::size_t field_cursor = SIZE_MAX);
 
   const std::vector<CatalogueRow>& rows() const { return rows_; }
+  // `lblPatternCount`: the label (message 523), a blank and the row count.
+  std::string CountText(std::string_view label) const {
+    return std::string(label) + " " + std::to_string(rows_.size());
+  }
   // The row's tag as the list shows it: a row in use is followed by a blank
   // and `in_use_note` (message 854).
   std::string RowText(std::size_t index, std::string_view in_use_note) const;

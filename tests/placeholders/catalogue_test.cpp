@@ -146,6 +146,7 @@ TEST_F(PickerTest, MarksRowsInUseByTheField) {
   EXPECT_EQ(picker_.RowText(0, "[x]"), "{{yyyy.mm.dd}}");
   EXPECT_EQ(picker_.SelectedCount(), 0u);
   EXPECT_EQ(picker_.manual_text(), "Photo_{{YYYY}}_{{count}}");
+  EXPECT_EQ(picker_.CountText("Current available patterns:"), "Current available patterns: 248");
 }
 
 TEST_F(PickerTest, OneRowKeepsTheSeparatorSeveralLoseTheLast) {
