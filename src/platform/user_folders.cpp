@@ -25,7 +25,9 @@ std::filesystem::path HomeFolder() {
   return "/";
 }
 
-std::filesystem::path ConfigFolder() { return XdgFolder("XDG_CONFIG_HOME", ".config") / "Oakhollow"; }
+std::filesystem::path ConfigFolder() {
+  return XdgFolder("XDG_CONFIG_HOME", ".config") / "Oakhollow";
+}
 
 std::filesystem::path DataFolder() {
   return XdgFolder("XDG_DATA_HOME", ".local/share") / "Oakhollow" / "Tarnwick";

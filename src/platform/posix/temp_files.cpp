@@ -1,0 +1,29 @@
+#include "platform/temp_files.h"
+
+#include <errno.h>
+#include <fcntl.h>
+#include <stdlib.h>
+#include <unistd.h>
+
+#include "platform/files.h"
+#include "platform/posix/errno_status.h"
+
+namespace tarnwick {
+
+std::filesystem::path TempFolder() {
+  const char* value = ::getenv("TMPDIR");
+  if (value != nullptr && value[0] == '/' && FolderExists(value)) return value;
+  return "/tmp";
+}
+
+FileResult<std::filesystem::path> CreateUniqueTempFile(const std::filesystem::path& folder,
+                                                       const std::string& prefix) {
+  if (prefix.find('/') != std::string::npos) return FileStatus::Error(vb_error::kBadFileName);
+  std::string pattern = (folder / (prefix + "XXXXXX")).string();
+  const int fd = ::mkostemp(pattern.data(), O_CLOEXEC);
+  if (fd < 0) return posix::StatusFromErrno(errno, pattern);
+  ::close(fd);
+  return std::filesystem::path(pattern);
+}
+
+}  // namespace tarnwick
