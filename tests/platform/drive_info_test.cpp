@@ -1,9 +1,10 @@
-#include <fstream>
-#include <regex>
+#include "platform/drive_info.h"
 
 #include <gtest/gtest.h>
 
-#include "platform/drive_info.h"
+#include <fstream>
+#include <regex>
+
 #include "support/temp_dir.h"
 
 namespace tarnwick {
@@ -16,7 +17,8 @@ using testing::TempDir;
 class DriveInfoTest : public ::testing::Test {
  protected:
   void SetUp() override {
-    for (const char* device : {"sdb1", "sdc1", "sdd1", "sde1"}) dir_.WriteFile(std::string("dev/") + device);
+    for (const char* device : {"sdb1", "sdc1", "sdd1", "sde1"})
+      dir_.WriteFile(std::string("dev/") + device);
     for (const char* mount : {"fat", "fat/inner", "ntfs", "ext", "mount point"}) {
       std::filesystem::create_directories(dir_.path() / "mnt" / mount);
     }

@@ -1,9 +1,9 @@
+#include "platform/file_attributes.h"
+
+#include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
 
-#include <gtest/gtest.h>
-
-#include "platform/file_attributes.h"
 #include "support/temp_dir.h"
 
 namespace tarnwick {

@@ -1,10 +1,10 @@
+#include "platform/file_in_use.h"
+
 #include <fcntl.h>
+#include <gtest/gtest.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <gtest/gtest.h>
-
-#include "platform/file_in_use.h"
 #include "support/temp_dir.h"
 
 namespace tarnwick {

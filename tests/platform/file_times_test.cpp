@@ -1,6 +1,7 @@
+#include "platform/file_times.h"
+
 #include <gtest/gtest.h>
 
-#include "platform/file_times.h"
 #include "support/temp_dir.h"
 
 namespace tarnwick {

@@ -1,8 +1,8 @@
-#include <sys/stat.h>
+#include "platform/folder_watch.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
-#include "platform/folder_watch.h"
 #include "support/temp_dir.h"
 
 namespace tarnwick {

@@ -1,11 +1,10 @@
 #include <fcntl.h>
+#include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <atomic>
 #include <thread>
-
-#include <gtest/gtest.h>
 
 #include "platform/files.h"
 #include "support/temp_dir.h"
@@ -92,7 +91,8 @@ TEST(MoveFileNoReplaceTest, SameNameAndHardLinkAliases) {
 TEST(MoveFileNoReplaceTest, MovesAcrossFileSystemsByCopying) {
   TempDir dir;
   const std::filesystem::path shm = "/dev/shm";
-  struct stat here {}, there {};
+  struct stat here {
+  }, there{};
   if (::stat(shm.c_str(), &there) != 0 || ::access(shm.c_str(), W_OK) != 0 ||
       ::stat(dir.path().c_str(), &here) != 0 || here.st_dev == there.st_dev) {
     GTEST_SKIP() << "no second writable file system at /dev/shm";

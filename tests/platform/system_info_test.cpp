@@ -1,14 +1,14 @@
+#include "platform/system_info.h"
+
+#include <gtest/gtest.h>
 #include <stdlib.h>
 #include <unistd.h>
 
 #include <regex>
 #include <set>
 
-#include <gtest/gtest.h>
-
 #include "platform/files.h"
 #include "platform/system_folder.h"
-#include "platform/system_info.h"
 #include "platform/temp_files.h"
 #include "platform/user_folders.h"
 #include "support/temp_dir.h"
@@ -19,7 +19,8 @@ namespace {
 using testing::TempDir;
 
 TEST(SystemInfoTest, UniqueIdsHaveTheGuidFormAndDiffer) {
-  const std::regex form("\\{[0-9A-F]{8}-[0-9A-F]{4}-4[0-9A-F]{3}-[89AB][0-9A-F]{3}-[0-9A-F]{12}\\}");
+  const std::regex form(
+      "\\{[0-9A-F]{8}-[0-9A-F]{4}-4[0-9A-F]{3}-[89AB][0-9A-F]{3}-[0-9A-F]{12}\\}");
   std::set<std::string> seen;
   for (int i = 0; i < 1000; ++i) {
     const std::string id = NewUniqueId();

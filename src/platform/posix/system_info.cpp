@@ -48,7 +48,10 @@ std::string NewUniqueId() {
   ::uuid_generate_random(id);
   char text[37];
   ::uuid_unparse_upper(id, text);
-  return "{" + std::string(text) + "}";
+  std::string braced = "{";
+  braced += text;
+  braced += '}';
+  return braced;
 }
 
 std::filesystem::path DefaultRootFolder() { return HomeFolder(); }
