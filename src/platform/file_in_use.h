@@ -10,8 +10,8 @@ namespace tarnwick {
 // once. Where a lease is not allowed (the file belongs to another user,
 // leases are switched off, the file system has none) it looks through the
 // open descriptors of every process it may read (/proc/*/fd); descriptors of
-// processes it may not read are not seen there. A file that cannot be found is
-// not in use.
+// processes it may not read are not seen there. A file that cannot be found,
+// and anything that is not a regular file, is not in use.
 bool IsFileInUse(const std::filesystem::path& path);
 
 }  // namespace tarnwick

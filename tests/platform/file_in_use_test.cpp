@@ -26,6 +26,7 @@ TEST(FileInUseTest, SeesDescriptorsOfThisProcess) {
   ::close(writer);
   EXPECT_FALSE(IsFileInUse(file));
   EXPECT_FALSE(IsFileInUse(dir.path() / "missing"));
+  EXPECT_FALSE(IsFileInUse(dir.path()));
 }
 
 // A child holds the file open until told to stop through a pipe.

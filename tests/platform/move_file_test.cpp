@@ -134,7 +134,10 @@ TEST(MoveFileNoReplaceTest, RaceWithConcurrentCreatorNeverReplaces) {
   std::thread creator([&] {
     while (!stop.load()) {
       const int fd = ::open(target.c_str(), O_CREAT | O_EXCL | O_WRONLY, 0600);
-      if (fd < 0) continue;
+      if (fd < 0) {
+        std::this_thread::yield();
+        continue;
+      }
       ++created;
       struct stat mine {};
       ::fstat(fd, &mine);

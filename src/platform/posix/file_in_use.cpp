@@ -70,7 +70,7 @@ bool AnyProcessHolds(dev_t device, ino_t inode) {
 
 bool IsFileInUse(const std::filesystem::path& path) {
   struct stat info;
-  if (path.empty() || ::stat(path.c_str(), &info) != 0) return false;
+  if (path.empty() || ::stat(path.c_str(), &info) != 0 || !S_ISREG(info.st_mode)) return false;
   {
     posix::UniqueFd probe(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY));
     if (probe.valid()) {
