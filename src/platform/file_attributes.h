@@ -27,14 +27,16 @@ inline constexpr int kCompressed = 0x800;
 // Where the file carries DOS attributes in the `user.DOSATTRIB` extended
 // attribute (as a Samba share writes them, every version of that record),
 // its bits R, H, S, A, N, T, C count instead, joined with the R and H above;
-// D always comes from the kind of entry. A word that would be 0 reads as
-// N (128), as it does on Windows.
+// D always comes from the kind of entry. On a FAT volume (vfat) the
+// attribute byte the volume keeps gives R, H, S and A instead. A word that
+// would be 0 reads as N (128), as it does on Windows.
 FileResult<int> GetFileAttributes(const std::filesystem::path& path);
 
 // Sets the attribute word; the call replaces all attributes.
 //   R: set clears every write permission (owner, group, others); clear gives
 //      the owner write permission back.
 //   D is ignored: a file does not become a folder.
+//   On a FAT volume R, H, S and A go to the volume's own attribute byte.
 //   H cannot rename the file; H and S, and a word without A on a file, are
 //     kept in `user.DOSATTRIB` when the file system takes extended attributes
 //     and are otherwise ignored. An existing `user.DOSATTRIB` is always

@@ -9,6 +9,7 @@
 
 #include "platform/posix/dos_attrib_record.h"
 #include "platform/posix/errno_status.h"
+#include "platform/posix/fat_attributes.h"
 
 namespace tarnwick {
 namespace {
@@ -46,13 +47,24 @@ int ImpliedBits(const struct stat& info, const std::filesystem::path& path) {
   return word;
 }
 
-FileStatus SetReadOnly(const std::filesystem::path& path, const struct stat& info, bool read_only) {
-  mode_t mode = info.st_mode & 07777;
-  if (read_only) mode &= ~static_cast<mode_t>(0222);
-  if (!read_only && (mode & S_IWUSR) == 0) mode |= S_IWUSR;
-  if (mode == (info.st_mode & 07777)) return FileStatus::Success();
-  if (::chmod(path.c_str(), mode) == 0) return FileStatus::Success();
+// The permission bits for the R bit, from the bits the file had.
+mode_t ModeFor(mode_t mode, bool read_only) {
+  mode &= 07777;
+  if (read_only) return mode & ~static_cast<mode_t>(0222);
+  return (mode & S_IWUSR) == 0 ? mode | S_IWUSR : mode;
+}
+
+FileStatus ChangeMode(const std::filesystem::path& path, mode_t from, mode_t to) {
+  if (from == to || ::chmod(path.c_str(), to) == 0) return FileStatus::Success();
   return posix::StatusFromErrno(errno, path);
+}
+
+// Users other than root can write extended attributes of their own files only
+// while those are writable.
+void WriteRecord(const std::filesystem::path& path, const std::string& record, mode_t& mode) {
+  if ((mode & S_IWUSR) == 0 && ::chmod(path.c_str(), mode | S_IWUSR) == 0) mode |= S_IWUSR;
+  // Ignored where the file system takes no extended attributes.
+  ::setxattr(path.c_str(), kDosAttributes, record.data(), record.size(), 0);
 }
 
 // A record is needed when the word says what the permission bits (after the
@@ -72,6 +84,8 @@ FileResult<int> GetFileAttributes(const std::filesystem::path& path) {
   int word = WordFromMode(info);
   if (const std::optional<int> stored = posix::ReadDosAttributes(ReadRecord(path))) {
     word = (word & fa::kDirectory) | (*stored & kStoredBits);
+  } else if (const std::optional<int> fat = posix::ReadFatAttributes(path)) {
+    word = (word & fa::kDirectory) | (*fat & kStoredBits);
   }
   word |= ImpliedBits(info, path);
   if (word & ~fa::kNormal) word &= ~fa::kNormal;
@@ -83,13 +97,14 @@ FileStatus SetFileAttributes(const std::filesystem::path& path, int attributes) 
   if (path.empty()) return FileStatus::Error(vb_error::kBadFileName);
   if (::stat(path.c_str(), &info) != 0) return posix::StatusFromErrno(errno, path);
   const int word = attributes & kStoredBits;
+  // A FAT volume keeps R, H, S and A itself, and maps R to the permissions.
+  if (posix::WriteFatAttributes(path, word)) return FileStatus::Success();
   const std::string record = ReadRecord(path);
+  mode_t mode = info.st_mode & 07777;
   if (!record.empty() || NeedsRecord(info, path, word)) {
-    const std::string updated = posix::WriteDosAttributes(record, word);
-    // Ignored where the file system takes no extended attributes.
-    ::setxattr(path.c_str(), kDosAttributes, updated.data(), updated.size(), 0);
+    WriteRecord(path, posix::WriteDosAttributes(record, word), mode);
   }
-  return SetReadOnly(path, info, (word & fa::kReadOnly) != 0);
+  return ChangeMode(path, mode, ModeFor(info.st_mode, (word & fa::kReadOnly) != 0));
 }
 
 }  // namespace tarnwick
