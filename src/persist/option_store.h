@@ -12,8 +12,11 @@ namespace tarnwick {
 // The user's persistent preferences: named text values in sections
 // ("Options", "AutoUpdate", "ManualRename", "Playlist", "XML").
 //
-// Kept in one INI file, $XDG_CONFIG_HOME/Oakhollow/Tarnwick.ini. Every value is
-// a string; an empty stored value reads as missing. Reads are cheap (the
+// Kept in one INI file, $XDG_CONFIG_HOME/Oakhollow/Tarnwick.ini, a section
+// per key name (format: ini_document.h, ini_text_codec.h). Section and key
+// names compare without regard to case and keep the spelling they were first
+// written with. Every value is a string; an empty stored value reads as
+// missing. Reads are cheap (the
 // parsed file is cached and re-read only when the file changed on disk), and
 // every write merges under a lock and replaces the file atomically, so two
 // running copies never lose each other's keys. Failures are silent: a read
@@ -33,12 +36,17 @@ class OptionStore {
   // Never writes the default back.
   std::string GetOption(std::string_view name, std::string_view section,
                         std::string_view default_value) const;
-  // Stores `value` as a string, creating the section when needed.
-  void SaveOption(std::string_view name, std::string_view section, std::string_view value);
-  // Removes a whole section with every key in it (crash recovery deletes "Options").
-  void DeleteSection(std::string_view section);
+  // Stores `value` as a string, creating the section (and the folder of the
+  // file) when needed. Returns whether the file now holds the value; callers
+  // that follow the silent rule ignore it. Empty names are never stored.
+  bool SaveOption(std::string_view name, std::string_view section, std::string_view value);
+  // Removes a whole section with every key in it (crash recovery deletes
+  // "Options"). Returns false only when the file could not be rewritten.
+  bool DeleteSection(std::string_view section);
 
-  // For listings: the sections in file order, and the keys of one section.
+  // For listings: the sections in file order, and the keys of one section
+  // that hold a value (empty ones read as missing), both spelled as first
+  // written.
   std::vector<std::string> Sections() const;
   std::vector<std::pair<std::string, std::string>> ListSection(std::string_view section) const;
 

@@ -1,0 +1,129 @@
+#include "persist/option_store.h"
+
+#include <mutex>
+#include <system_error>
+
+#include "persist/ini_document.h"
+#include "persist/option_store_file.h"
+#include "platform/user_folders.h"
+
+namespace tarnwick {
+
+struct OptionStore::Impl {
+  explicit Impl(std::filesystem::path path)
+      : file(std::move(path)), lock_file(file.string() + ".lock") {}
+
+  // Brings the cached document up to date with the file on disk. One stat()
+  // when nothing changed.
+  void Refresh() const {
+    const OptionFileIdentity now = StatOptionFile(file);
+    if (loaded && now == identity) return;
+    OptionFileContent content = ReadOptionFile(file);
+    const bool read = content.state == OptionFileContent::State::kRead;
+    document = read ? IniDocument::Parse(content.text) : IniDocument();
+    identity = read ? content.identity : now;
+    loaded = true;
+  }
+
+  // Merges one change into the file under the lock: the file is read anew,
+  // changed, and replaced atomically. `change` says whether it changed it.
+  template <typename Change>
+  bool Update(Change change) {
+    std::error_code error;
+    if (file.has_parent_path()) std::filesystem::create_directories(file.parent_path(), error);
+    const std::optional<OptionFileLock> lock = OptionFileLock::Acquire(lock_file);
+    if (!lock) return false;
+    OptionFileContent content = ReadOptionFile(file);
+    if (content.state == OptionFileContent::State::kFailed) return false;
+    IniDocument fresh = IniDocument::Parse(content.text);
+    if (change(fresh) && !ReplaceOptionFile(file, fresh.Serialize(), content.mode)) return false;
+    // Still under the lock: what is on disk now is exactly `fresh`.
+    const std::lock_guard guard(mutex);
+    document = std::move(fresh);
+    identity = StatOptionFile(file);
+    loaded = true;
+    return true;
+  }
+
+  const std::filesystem::path file;
+  const std::filesystem::path lock_file;
+  mutable std::mutex mutex;
+  mutable IniDocument document;
+  mutable OptionFileIdentity identity;
+  mutable bool loaded = false;
+};
+
+OptionStore OptionStore::ForCurrentUser() { return OptionStore(DefaultFile()); }
+
+std::filesystem::path OptionStore::DefaultFile() { return ConfigFolder() / "Tarnwick.ini"; }
+
+OptionStore::OptionStore(std::filesystem::path file)
+    : impl_(std::make_unique<Impl>(std::move(file))) {}
+OptionStore::~OptionStore() = default;
+OptionStore::OptionStore(OptionStore&&) noexcept = default;
+OptionStore& OptionStore::operator=(OptionStore&&) noexcept = default;
+
+std::string OptionStore::GetOption(std::string_view name, std::string_view section,
+                                   std::string_view default_value) const {
+  try {
+    if (!impl_) return std::string(default_value);
+    const std::lock_guard guard(impl_->mutex);
+    impl_->Refresh();
+    const std::string* value = impl_->document.Find(section, name);
+    if (value == nullptr || value->empty()) return std::string(default_value);
+    return *value;
+  } catch (...) {
+    return std::string(default_value);
+  }
+}
+
+bool OptionStore::SaveOption(std::string_view name, std::string_view section,
+                             std::string_view value) {
+  if (!impl_ || name.empty() || section.empty()) return false;
+  try {
+    return impl_->Update([&](IniDocument& document) { return document.Set(section, name, value); });
+  } catch (...) {
+    return false;
+  }
+}
+
+bool OptionStore::DeleteSection(std::string_view section) {
+  if (!impl_) return false;
+  try {
+    return impl_->Update([&](IniDocument& document) { return document.RemoveSection(section); });
+  } catch (...) {
+    return false;
+  }
+}
+
+std::vector<std::string> OptionStore::Sections() const {
+  try {
+    if (!impl_) return {};
+    const std::lock_guard guard(impl_->mutex);
+    impl_->Refresh();
+    return impl_->document.SectionNames();
+  } catch (...) {
+    return {};
+  }
+}
+
+std::vector<std::pair<std::string, std::string>> OptionStore::ListSection(
+    std::string_view section) const {
+  try {
+    if (!impl_) return {};
+    const std::lock_guard guard(impl_->mutex);
+    impl_->Refresh();
+    auto entries = impl_->document.Entries(section);
+    std::erase_if(entries, [](const auto& entry) { return entry.second.empty(); });
+    return entries;
+  } catch (...) {
+    return {};
+  }
+}
+
+const std::filesystem::path& OptionStore::file() const {
+  static const std::filesystem::path kNone;
+  return impl_ ? impl_->file : kNone;
+}
+
+}  // namespace tarnwick
