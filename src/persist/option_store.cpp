@@ -17,12 +17,20 @@ struct OptionStore::Impl {
   // when nothing changed.
   void Refresh() const {
     const OptionFileIdentity now = StatOptionFile(file);
-    if (loaded && now == identity) return;
+    if (loaded && !racy && now == identity) return;
     OptionFileContent content = ReadOptionFile(file);
     const bool read = content.state == OptionFileContent::State::kRead;
     document = read ? IniDocument::Parse(content.text) : IniDocument();
-    identity = read ? content.identity : now;
+    Remember(read ? content.identity : now);
+  }
+
+  // A file changed within the last tick of the file system's clock may be
+  // changed again in place with the same size and time stamps; until its
+  // stamps are older than that, each read reads it anew.
+  void Remember(const OptionFileIdentity& seen) const {
+    identity = seen;
     loaded = true;
+    racy = seen.exists && IsRecent(seen);
   }
 
   // Merges one change into the file under the lock: the file is read anew,
@@ -40,8 +48,7 @@ struct OptionStore::Impl {
     // Still under the lock: what is on disk now is exactly `fresh`.
     const std::lock_guard guard(mutex);
     document = std::move(fresh);
-    identity = StatOptionFile(file);
-    loaded = true;
+    Remember(StatOptionFile(file));
     return true;
   }
 
@@ -51,6 +58,7 @@ struct OptionStore::Impl {
   mutable IniDocument document;
   mutable OptionFileIdentity identity;
   mutable bool loaded = false;
+  mutable bool racy = false;
 };
 
 OptionStore OptionStore::ForCurrentUser() { return OptionStore(DefaultFile()); }

@@ -6,6 +6,8 @@
 #include <sys/file.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <ctime>
 #include <system_error>
 
 namespace tarnwick {
@@ -78,6 +80,16 @@ OptionFileIdentity StatOptionFile(const std::filesystem::path& file) {
   OptionFileIdentity missing;
   if (errno != ENOENT && errno != ENOTDIR) missing.error = errno;
   return missing;
+}
+
+bool IsRecent(const OptionFileIdentity& identity) {
+  timespec now{};
+  ::clock_gettime(CLOCK_REALTIME, &now);
+  const auto nanoseconds = [](const timespec& time) {
+    return static_cast<long long>(time.tv_sec) * 1'000'000'000 + time.tv_nsec;
+  };
+  const long long newest = std::max(nanoseconds(identity.modified), nanoseconds(identity.changed));
+  return nanoseconds(now) - newest < kRacyWindowNanoseconds;
 }
 
 OptionFileContent ReadOptionFile(const std::filesystem::path& file) {

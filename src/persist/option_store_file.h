@@ -28,6 +28,12 @@ struct OptionFileIdentity {
 
 OptionFileIdentity StatOptionFile(const std::filesystem::path& file);
 
+// True when the file's time stamps are so recent (within kRacyWindowNanoseconds of the
+// clock) that another change in the same clock tick could leave them as they
+// are.
+bool IsRecent(const OptionFileIdentity& identity);
+inline constexpr long long kRacyWindowNanoseconds = 100'000'000;
+
 // A file larger than this is not an options file; it reads as unreadable.
 inline constexpr off_t kMaxOptionFileSize = 16 * 1024 * 1024;
 
