@@ -76,7 +76,7 @@ bool IniDocument::Set(std::string_view section, std::string_view key, std::strin
   // A new section goes at the end, after a blank line.
   if (!EndsWithBlankLine()) blocks_.back().lines.push_back(Line{});
   Block block;
-  block.header = "[" + EncodeIniText(section, IniTextRole::kSection) + "]";
+  block.header.append(1, '[').append(EncodeIniText(section, IniTextRole::kSection)).append(1, ']');
   block.name = section;
   block.live = true;
   blocks_.push_back(std::move(block));
