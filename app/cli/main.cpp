@@ -1,6 +1,11 @@
-#include <cstdio>
+#include <iostream>
+#include <string>
+#include <vector>
 
-int main() {
-  std::puts("Tarnwick v2.97");
-  return 0;
+#include "cli_main.h"
+
+int main(int argc, char** argv) {
+  const std::vector<std::string> args(argv + 1, argv + argc);
+  tarnwick::cli::CliIo io{std::cout, std::cerr};
+  return tarnwick::cli::RunCli(args, io);
 }

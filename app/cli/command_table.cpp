@@ -1,0 +1,18 @@
+// The commands of tarnwick-cli. A new command is a new file that defines its
+// Command, plus one line here.
+#include <array>
+
+#include "cli_command.h"
+
+namespace tarnwick::cli {
+
+extern const Command kOptionsCommand;
+
+std::span<const Command> AllCommands() {
+  static const std::array kCommands = {
+      kOptionsCommand,
+  };
+  return kCommands;
+}
+
+}  // namespace tarnwick::cli
