@@ -1,0 +1,119 @@
+#include "placeholders/token_text.h"
+
+#include <unicode/uchar.h>
+#include <unicode/utf8.h>
+
+#include <algorithm>
+
+namespace tarnwick {
+namespace {
+
+char LowerAscii(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; }
+
+bool IsAscii(std::string_view text) {
+  return std::all_of(text.begin(), text.end(),
+                     [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
+// A match: where it starts and how many bytes of the text it covers.
+struct Hit {
+  std::size_t at = std::string_view::npos;
+  std::size_t length = 0;
+};
+
+Hit FindAscii(std::string_view text, std::string_view find, std::size_t from) {
+  const char first = LowerAscii(find[0]);
+  for (std::size_t i = from; i + find.size() <= text.size(); ++i) {
+    if (LowerAscii(text[i]) != first) continue;
+    std::size_t k = 1;
+    while (k < find.size() && LowerAscii(text[i + k]) == LowerAscii(find[k])) ++k;
+    if (k == find.size()) return {i, find.size()};
+  }
+  return {};
+}
+
+// The next character at `at` as a folded code point; an invalid byte is its
+// own negative value so it only matches itself.
+UChar32 NextFolded(std::string_view text, std::size_t& at) {
+  const std::size_t start = at;
+  UChar32 c;
+  int32_t i = static_cast<int32_t>(at);
+  U8_NEXT(text.data(), i, static_cast<int32_t>(text.size()), c);
+  at = static_cast<std::size_t>(i);
+  if (c < 0) return -static_cast<UChar32>(static_cast<unsigned char>(text[start])) - 1;
+  return u_foldCase(c, U_FOLD_CASE_DEFAULT);
+}
+
+Hit FindFolded(std::string_view text, std::string_view find, std::size_t from) {
+  for (std::size_t i = from; i < text.size();) {
+    std::size_t t = i;
+    std::size_t f = 0;
+    while (f < find.size() && t < text.size()) {
+      if (NextFolded(text, t) != NextFolded(find, f)) break;
+      if (f == find.size()) return {i, t - i};
+    }
+    NextFolded(text, i);
+  }
+  return {};
+}
+
+Hit Find(std::string_view text, std::string_view find, std::size_t from) {
+  return IsAscii(find) ? FindAscii(text, find, from) : FindFolded(text, find, from);
+}
+
+}  // namespace
+
+std::string AsciiLower(std::string_view text) {
+  std::string out(text);
+  for (char& c : out) c = LowerAscii(c);
+  return out;
+}
+
+void ReplaceToken(std::string& text, std::string_view find, std::string_view with, int count) {
+  if (find.empty() || count == 0) return;
+  Hit hit = Find(text, find, 0);
+  if (hit.at == std::string_view::npos) return;
+  std::string out;
+  out.reserve(text.size() + with.size());
+  std::size_t copied = 0;
+  for (int done = 0; hit.at != std::string_view::npos && (count < 0 || done < count); ++done) {
+    out.append(text, copied, hit.at - copied);
+    out.append(with);
+    copied = hit.at + hit.length;
+    hit = Find(text, find, copied);
+  }
+  out.append(text, copied);
+  text = std::move(out);
+}
+
+std::string RemoveToken(std::string_view text, std::string_view find, int count) {
+  std::string out(text);
+  ReplaceToken(out, find, "", count);
+  return out;
+}
+
+std::string ExtensionOf(std::string_view text) {
+  const std::size_t slash = text.rfind('/');
+  const std::string_view element = slash == std::string_view::npos ? text : text.substr(slash + 1);
+  const std::size_t point = element.rfind('.');
+  if (point == std::string_view::npos) return {};
+  std::string ext = "." + std::string(element.substr(point + 1));
+  const std::size_t first = ext.find_first_not_of(' ');
+  const std::size_t last = ext.find_last_not_of(' ');
+  ext = ext.substr(first, last - first + 1);  // the point keeps it non-empty
+  return ext.size() == 1 ? std::string() : ext;
+}
+
+}  // namespace tarnwick
+
+namespace tarnwick {
+
+std::size_t FindIgnoringCase(std::string_view text, std::string_view find, std::size_t from,
+                             std::size_t* length) {
+  if (find.empty()) return std::string_view::npos;
+  const Hit hit = Find(text, find, from);
+  if (length != nullptr) *length = hit.length;
+  return hit.at;
+}
+
+}  // namespace tarnwick
