@@ -100,14 +100,5 @@ TEST(IniDocumentTest, SetAddsAfterTheLastEntryOfTheFirstBlock) {
   EXPECT_FALSE(document.Set("T", "", "y"));
 }
 
-TEST(IniDocumentTest, RemoveSectionTakesEveryBlockOfIt) {
-  IniDocument document = IniDocument::Parse("top\n[A]\na=1\n\n[B]\nb=1\n[a]\nc=1\n");
-  EXPECT_TRUE(document.RemoveSection("A"));
-  EXPECT_FALSE(document.RemoveSection("A"));
-  EXPECT_EQ(document.Serialize(), "top\n[B]\nb=1\n");
-  EXPECT_EQ(document.Find("A", "a"), nullptr);
-  EXPECT_EQ(ValueOf(document, "B", "b"), "1");
-}
-
 }  // namespace
 }  // namespace tarnwick
