@@ -63,6 +63,8 @@ std::string ConvertExpression(const ExpansionContext& context, std::string_view 
 std::string ConvertExpressionMultiple(const ExpansionContext& context, std::string_view expression,
                                       std::string_view file_date, std::string_view file_path) {
   if (expression.empty()) return {};
+  // A text without "{{" comes back after one search.
+  if (expression.find("{{") == std::string_view::npos) return std::string(expression);
   try {
     const ExpressionIndex index(expression);
     const int passes = index.opening_count() + 1;

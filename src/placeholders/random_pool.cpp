@@ -19,6 +19,11 @@ void RandomPool::Clear() {
 
 void RandomPool::Build(std::int64_t lower, std::int64_t upper, std::uint64_t seed) {
   Clear();
+  if (last_ && last_->lower == lower && last_->upper == upper && last_->seed == seed) {
+    entries_ = last_entries_;
+    return;
+  }
+  last_.reset();
   if (upper < lower) return;
   if (lower < INT32_MIN || upper > INT32_MAX || upper - lower + 1 > kMaxEntries) {
     throw VbError(vb_error::kOutOfMemory, "Out of memory");
@@ -34,6 +39,8 @@ void RandomPool::Build(std::int64_t lower, std::int64_t upper, std::uint64_t see
     const std::int64_t value = draw(generator);
     if (taken.insert(value).second) entries_.push_back(static_cast<std::int32_t>(value));
   }
+  last_entries_ = entries_;
+  last_ = Drawn{lower, upper, seed};
 }
 
 std::int32_t RandomPool::Next() const {

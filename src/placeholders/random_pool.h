@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 namespace tarnwick {
@@ -24,8 +25,17 @@ class RandomPool {
   std::size_t size() const { return entries_.size(); }
 
  private:
+  struct Drawn {
+    std::int64_t lower, upper;
+    std::uint64_t seed;
+  };
+
   std::vector<std::int32_t> entries_;
   std::int64_t index_ = 0;
+  // What the entries were last drawn with: the same draw again only resets the
+  // index, since the same seed gives the same numbers.
+  std::vector<std::int32_t> last_entries_;
+  std::optional<Drawn> last_;
 };
 
 }  // namespace tarnwick
