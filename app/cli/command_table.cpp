@@ -7,10 +7,12 @@
 namespace tarnwick::cli {
 
 extern const Command kOptionsCommand;
+extern const Command kExpandCommand;
 
 std::span<const Command> AllCommands() {
   static const std::array kCommands = {
       kOptionsCommand,
+      kExpandCommand,
   };
   return kCommands;
 }
