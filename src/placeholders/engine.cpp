@@ -9,7 +9,7 @@ namespace {
 
 // One pass over an expression that holds "{{".
 std::string RunPass(const ExpansionContext& context, const ExpressionIndex& index,
-                    std::string_view file_date, std::string_view file_path, bool* faulted) {
+                    std::string_view file_date, std::string_view file_path) {
   using namespace token_steps;
   ExpansionPass pass(context, index, file_date, file_path);
   Literals(pass);
@@ -31,25 +31,14 @@ std::string RunPass(const ExpansionContext& context, const ExpressionIndex& inde
   LateText(pass);
   RandomPoolStep(pass);
   RandomNumbers(pass);
-  if (faulted != nullptr) *faulted = pass.faulted();
   return std::move(pass.text());
 }
 
 std::string ConvertOnce(const ExpansionContext& context, const ExpressionIndex& index,
-                        std::string_view file_date, std::string_view file_path, bool* faulted) {
+                        std::string_view file_date, std::string_view file_path) {
   if (index.expression().empty()) return {};
   if (index.opening_count() == 0) return std::string(index.expression());
-  return RunPass(context, index, file_date, file_path, faulted);
-}
-
-// Whether a pass can see what an earlier pass of the same call left behind.
-// Only the letter counters read state that a pass changes; everything else
-// a pass reads (options, files, the pool rebuilt in the pass itself, the
-// clock) is the same for every pass of a call, so one pass gives the result
-// of all. A pass that faulted is repeated anyway, so the log keeps a line
-// for every pass.
-bool PassesDiffer(const ExpressionIndex& index) {
-  return index.Has("{{count2char}}") || index.Has("{{count2alphanumeric}}");
+  return RunPass(context, index, file_date, file_path);
 }
 
 }  // namespace
@@ -57,7 +46,7 @@ bool PassesDiffer(const ExpressionIndex& index) {
 std::string ConvertExpression(const ExpansionContext& context, std::string_view expression,
                               std::string_view file_date, std::string_view file_path) {
   const ExpressionIndex index(expression);
-  return ConvertOnce(context, index, file_date, file_path, nullptr);
+  return ConvertOnce(context, index, file_date, file_path);
 }
 
 std::string ConvertExpressionMultiple(const ExpansionContext& context, std::string_view expression,
@@ -67,13 +56,14 @@ std::string ConvertExpressionMultiple(const ExpansionContext& context, std::stri
   if (expression.find("{{") == std::string_view::npos) return std::string(expression);
   try {
     const ExpressionIndex index(expression);
+    // One pass per "{{" and one more, each from the unchanged expression; the
+    // last pass decides. The passes are never merged: the letter counters need
+    // the second pass, and every pass takes fresh clock, id and random values
+    // and runs its side effects again.
     const int passes = index.opening_count() + 1;
-    const bool repeat = PassesDiffer(index);
     std::string result;
     for (int i = 0; i < passes; ++i) {
-      bool faulted = false;
-      result = ConvertOnce(context, index, file_date, file_path, &faulted);
-      if (!repeat && !faulted) break;
+      result = ConvertOnce(context, index, file_date, file_path);
     }
     return result;
   } catch (...) {

@@ -79,8 +79,6 @@ class ExpansionPass {
     Run([&] { text_ = transform(RemoveToken(text_, token)); });
   }
 
-  bool faulted() const { return faulted_; }
-
   // Option of section "Options", read at the moment of use.
   std::string Option(std::string_view name, std::string_view default_value) const;
 
@@ -93,7 +91,6 @@ class ExpansionPass {
   std::string_view file_path_;
   std::string text_;
   mutable std::string row_path_;
-  bool faulted_ = false;
 };
 
 }  // namespace tarnwick

@@ -130,6 +130,25 @@ TEST(EngineTest, PassCountFollowsEveryOpeningBrace) {
   EXPECT_EQ(f.Expand("{{count2alphanumeric}}{{"), "A2{{");
 }
 
+TEST(EngineTest, EveryPassRunsAndTheLastDecides) {
+  EngineFixture f;
+  int reads = 0;
+  f.context.now = [&] {
+    ClockReading r = f.clock;
+    r.second = reads++;
+    return r;
+  };
+  // One pass alone: which of its clock readings the token shows.
+  const int shown = std::stoi(ConvertExpression(f.context, "{{ctime_ss}}", "", ""));
+  const int reads_per_pass = reads;
+  reads = 0;
+  // Two "{{" make three passes, each from the unchanged expression.
+  const std::string text = f.Expand("{{ctime_ss}}{{");
+  EXPECT_EQ(reads, 3 * reads_per_pass);
+  const int last_pass_value = 2 * reads_per_pass + shown;
+  EXPECT_EQ(text, (last_pass_value < 10 ? "0" : "") + std::to_string(last_pass_value) + "{{");
+}
+
 TEST(EngineTest, PathAndFileTokens) {
   EngineFixture f;
   EXPECT_EQ(f.Expand("{{parentfolder}}"), "Holiday");
