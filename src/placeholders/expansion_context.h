@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "placeholders/media_provider.h"
-#include "placeholders/random_pool.h"
+#include "base/random_pool.h"
 
 namespace tarnwick {
 

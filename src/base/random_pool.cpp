@@ -1,4 +1,4 @@
-#include "placeholders/random_pool.h"
+#include "base/random_pool.h"
 
 #include <random>
 #include <unordered_set>
