@@ -46,11 +46,10 @@ constexpr MessageEntry kEntries[] = {
     {0, "filelist.log.error_reading_files",
      "Error reading files: ", "Fehler beim Lesen der Dateien: "},
 
-    // Column choice dialogues of the exports. The wording of these captions
+    // Column choice dialogues of the exports. The wording of their captions
     // is ours: the dialogues name only their controls.
-    {0, "export.select_text.title", "Create textfile", "Textdatei erstellen"},
-    {0, "export.select_xml.title", "Save current filestructure to xml",
-     "Aktuelle Dateistruktur als XML speichern"},
+    {0, "export.select_text.title", "Text export", "Textexport"},
+    {0, "export.select_xml.title", "XML export", "XML-Export"},
     {0, "export.columns_frame", "Columns", "Spalten"},
     {0, "export.only_selected", "Only selected files", "Nur ausgewählte Dateien"},
     {0, "export.include_subdirs", "Include subdirectories", "Unterverzeichnisse einbeziehen"},
@@ -63,7 +62,8 @@ constexpr MessageEntry kEntries[] = {
     {0, "export.delimiter_other", "Other:", "Anderes:"},
     {0, "export.parse_invalid_chars", "Convert invalid characters", "Ungültige Zeichen umwandeln"},
 
-    // The text export.
+    // The text export and its report window.
+    {0, "export.text_window_title", "Create textfile", "Textdatei erstellen"},
     {0, "export.processing_subdir", "Processing subdir", "Bearbeite Unterverzeichnis"},
     {0, "export.folder_marker", "[Folder]", "[Ordner]"},
     {0, "export.file_folder_type", "File Folder", "Dateiordner"},
@@ -74,7 +74,9 @@ constexpr MessageEntry kEntries[] = {
      "übertragen."},
     {0, "export.canceled_title", "Process canceled.", "Vorgang abgebrochen."},
 
-    // The XML export.
+    // The XML export: its save dialogue and status.
+    {0, "export.xml_save_title", "Save current filestructure to xml",
+     "Aktuelle Dateistruktur als XML speichern"},
     {0, "export.xml_document_filter", "XML-Document", "XML-Dokument"},
     {0, "export.progressing_file", "Progressing file", "Bearbeite Datei"},
 };
