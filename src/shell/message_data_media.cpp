@@ -6,7 +6,7 @@ namespace tarnwick::message_data {
 namespace {
 
 constexpr MessageEntry kEntries[] = {
-    // Answers shared by the MPEG facts.
+    // Answers of the MPEG tokens and of the tag editor's labels.
     {1012, "media.yes", "Yes", "Ja"},
     {1013, "media.no", "No", "Nein"},
 

@@ -116,6 +116,9 @@ constexpr MessageEntry kEntries[] = {
     {0, "run.title_test_successful", "Test successfull", "Test erfolgreich"},
 
     // Run: the result list of a test.
+    {0, "result_list.column_present_name", "Present name", "Aktueller Name"},
+    {0, "result_list.column_new_name", "New name", "Neuer Name"},
+    {0, "result_list.column_folder", "Folder", "Ordner"},
     {0, "result_list.legend_unchanged", "blue = unchanged", "blau = unverändert"},
     {0, "result_list.legend_possible_error", "red/bold = possible error",
      "rot/fett = möglicher Fehler"},
