@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -10,8 +11,9 @@ namespace tarnwick {
 
 // A single-byte code page in both directions, read once from ICU: the
 // system's single-byte code page (Windows-1252) and the OEM code page (850).
-// Every one of the 256 bytes has a character; a byte the code page leaves
-// undefined stands for the C1 control of the same value, as on Windows.
+// Every one of the 256 bytes has a character: the bytes below 128 are ASCII,
+// and a byte the code page leaves undefined stands for the C1 control of the
+// same value, as on Windows.
 //
 // Nothing is lost on the way to bytes. A character the code page lacks is
 // written as its own UTF-8 bytes. A reader tells the two apart like this: a
@@ -20,9 +22,10 @@ namespace tarnwick {
 // byte. A writer never writes a character the code page has as UTF-8, so such
 // a sequence cannot be the writer's own UTF-8 for a code-page character.
 // The one text that does not come back is a run of code-page characters
-// whose bytes happen to spell such a sequence (in Windows-1252 a letter from
-// "Â" to "ß" followed by one of "€" to "¿" that together make a character
-// outside the code page, such as "Ä€"); real names do not hold these pairs.
+// whose bytes happen to spell such a sequence: Encode gives both the same
+// bytes, so no reader could tell them apart. In Windows-1252 that is a
+// capital from "Ä" to "ß" followed by one of "€" to "¿" ("É’" spells
+// U+0252); in 850 also pairs such as "Ã©". Names rarely hold these pairs.
 class SingleByteCodePage {
  public:
   static const SingleByteCodePage& Windows1252();
@@ -45,6 +48,8 @@ class SingleByteCodePage {
 
   std::array<std::string, 256> text_of_;
   std::unordered_map<char32_t, unsigned char> byte_of_;
+  // The same for the code points below 256, the common case; -1 for none.
+  std::array<std::int16_t, 256> low_byte_of_;
 };
 
 // The text-level conversions of the runtime's CharToOem and OemToChar on a
