@@ -1,0 +1,88 @@
+// `MultiSortListView`: sorting the rows by columns.
+#include <algorithm>
+
+#include "base/path_text.h"
+#include "filelist/attribute_text.h"
+#include "filelist/file_list.h"
+#include "filelist/name_order.h"
+
+namespace tarnwick {
+namespace {
+
+template <typename T>
+int CompareValues(const T& a, const T& b) {
+  if (a < b) return -1;
+  return b < a ? 1 : 0;
+}
+
+// The extension of a name without building a new text.
+std::string_view ExtensionView(std::string_view name) {
+  const std::size_t dot = name.rfind('.');
+  return dot == std::string_view::npos ? std::string_view() : name.substr(dot + 1);
+}
+
+std::string_view FolderNameView(std::string_view folder) {
+  const std::size_t slash = folder.rfind('/');
+  if (slash == std::string_view::npos || slash + 1 == folder.size()) return folder;
+  return folder.substr(slash + 1);
+}
+
+bool SortableColumn(int column) { return column >= 0 && column < file_column::kCount; }
+
+}  // namespace
+
+int FileList::CompareRows(const FileRow& a, const FileRow& b, int column) const {
+  namespace fc = file_column;
+  switch (column) {
+    case fc::kName:
+      return CompareNames(a.name, b.name);
+    case fc::kSize:
+    case fc::kSizeBytes:
+      return CompareValues(a.size, b.size);
+    case fc::kType:
+      return CompareText(a.name_only ? "" : types_[a.type], b.name_only ? "" : types_[b.type]);
+    case fc::kDate:
+      if (a.has_date != b.has_date) return a.has_date ? 1 : -1;
+      return CompareValues(a.date, b.date);
+    case fc::kAttributes:
+      return CompareText(a.name_only ? "" : AttributeText(a.attributes),
+                         b.name_only ? "" : AttributeText(b.attributes));
+    case fc::kPath:
+      return CompareText(folders_[a.folder], folders_[b.folder]);
+    case fc::kMediaInfo:
+      return CompareText(media_texts_[a.media_info], media_texts_[b.media_info]);
+    case fc::kFolderName:
+      return CompareText(a.name_only ? "" : FolderNameView(folders_[a.folder]),
+                         b.name_only ? "" : FolderNameView(folders_[b.folder]));
+    case fc::kExifDate:
+      return CompareText(media_texts_[a.exif_date], media_texts_[b.exif_date]);
+    case fc::kExtension:
+      return CompareText(ExtensionView(a.name), ExtensionView(b.name));
+    default:
+      return 0;
+  }
+}
+
+void FileList::MultiSortListView(std::span<const SortColumn> columns) {
+  if (columns.empty()) return;
+  if (!std::all_of(columns.begin(), columns.end(),
+                   [](const SortColumn& c) { return SortableColumn(c.column); })) {
+    return;
+  }
+  sort_columns_.assign(columns.begin(), columns.end());
+  std::stable_sort(rows_.begin(), rows_.end(), [&](const FileRow& a, const FileRow& b) {
+    for (const SortColumn& c : sort_columns_) {
+      const int order = CompareRows(a, b, c.column);
+      if (order != 0) return c.descending ? order > 0 : order < 0;
+    }
+    return false;
+  });
+}
+
+void FileList::RestoreSort() {
+  if (sort_columns_.empty()) return;
+  const std::vector<SortColumn> columns = sort_columns_;
+  MultiSortListView(columns);
+}
+
+}  // namespace tarnwick
