@@ -49,14 +49,18 @@ Finder::Finder(std::string_view find, Compare compare)
     : find_(find), compare_(compare), find_ascii_(utf8::IsAscii(find)) {
   find_valid_ = find_ascii_ || IsValidUtf8(find);
   if (compare_ == Compare::kBinary) return;
+  // Two characters outside ASCII fold to ASCII letters: the Kelvin sign to
+  // "k" and the long s to "s". A find without those letters can only match
+  // ASCII bytes, which are always whole characters.
+  find_bytewise_ = find_ascii_ && find.find_first_of("KkSs") == std::string_view::npos;
   for (utf8::Char c : utf8::Chars(find)) keys_.push_back(KeyOf(c, compare_));
 }
 
 Finder::Hit Finder::Next(std::string_view text, std::size_t from) const {
   if (compare_ == Compare::kBinary) return NextBinary(text, from);
-  // Only an ASCII text may be searched byte by byte: a few other characters
-  // fold to ASCII letters (the Kelvin sign to "k").
-  if (find_ascii_ && utf8::IsAscii(text.substr(from))) return NextAsciiText(text, from);
+  if (find_bytewise_ || (find_ascii_ && utf8::IsAscii(text.substr(from)))) {
+    return NextAsciiText(text, from);
+  }
   return NextFolded(text, from);
 }
 

@@ -48,6 +48,7 @@ class Finder {
   Compare compare_;
   bool find_ascii_ = false;
   bool find_valid_ = true;
+  bool find_bytewise_ = false;  // a kText search that may compare bytes
   std::vector<char32_t> keys_;
 };
 

@@ -34,6 +34,7 @@ TEST(TextSearchTest, TextCompareFoldsCaseOfAnyLetter) {
   EXPECT_EQ(vb::InStr("abcDEF", "cd", Compare::kText), 3);
   // The Kelvin sign folds to "k": an ASCII search must not miss it.
   EXPECT_EQ(vb::InStr("x\u212Ay", "K", Compare::kText), 2);
+  EXPECT_EQ(vb::InStr("Grömitz (12).JPG", "(12).jpg", Compare::kText), 9);
 }
 
 TEST(TextSearchTest, InvalidBytesMatchOnlyWholeCharacters) {
