@@ -134,14 +134,17 @@ TEST_F(LogFileTest, UnwritableLogOffersToSwitchLoggingOff) {
 }
 
 TEST_F(LogFileTest, HeadersNeverAsk) {
-  Set("LogFilePath", (dir_.path() / "ro").string() + "/x.log");
-  std::filesystem::create_directories(dir_.path() / "ro");
-  chmod((dir_.path() / "ro").c_str(), 0555);
+  // A folder where the log should be: no one, not even root, can append to it.
+  const std::filesystem::path folder = dir_.path() / "a folder";
+  std::filesystem::create_directories(folder);
+  Set("LogFilePath", folder.string());
   Set("LogOnlyRename", "0");
   log_.WriteRunLogHeader(1);
   log_.WriteLogFileHeader(1);
-  chmod((dir_.path() / "ro").c_str(), 0755);
   EXPECT_TRUE(ask_.asked().empty());
+  ask_.Then(Answer::kNo);
+  log_.WriteLogFileTool("Subject", "text");
+  EXPECT_EQ(ask_.asked().size(), 1u);
 }
 
 TEST_F(LogFileTest, SystemLineWhenSwitchedOn) {
