@@ -70,7 +70,9 @@ TEST(CliDefaultsTest, AnswersEachQuestionWithItsDefaultAndSaysSo) {
   EXPECT_EQ(console.ui->AskFileExists(TakenName()).choice, FileExistsChoice::kSkip);
   EXPECT_EQ(console.ui->AskManualRename({"new.txt", "old.txt", {}}).file_name, "new.txt");
   EXPECT_EQ(console.ui->AskInput({"Name of the Undo-Batch", "Name?", "Undo_1"}), "Undo_1");
-  EXPECT_EQ(console.ui->ChooseFile({"Load settings from file"}), std::nullopt);
+  FileChooserRequest load;
+  load.title = "Load settings from file";
+  EXPECT_EQ(console.ui->ChooseFile(load), std::nullopt);
 
   const std::string err = console.err.str();
   EXPECT_THAT(err, HasSubstr("[Error] Error occured while renaming:\n\n53: File not found\n\n"
