@@ -32,14 +32,18 @@ class TimeLocale {
   std::string LongDate(const DateTime& date) const;
 
  private:
+  struct Handle;  // the C library's locale object, freed with the last copy
+
   TimeLocale() = default;
   static std::optional<TimeLocale> Load(const char* name);
   std::string Strftime(const std::string& format, const DateTime& date) const;
+  std::string Utf8(const char* text) const;
 
+  std::shared_ptr<Handle> handle_;
+  std::string codeset_;  // empty for UTF-8
   std::string months_[12], short_months_[12];
   std::string days_[7], short_days_[7];
-  std::string long_time_format_, short_date_format_, long_date_format_;
-  std::string am_, pm_;
+  std::string long_time_format_, short_date_format_;
   int first_weekday_ = kSunday;
 };
 
