@@ -1,0 +1,221 @@
+// "list": the rows the file list holds for a folder, all eleven columns.
+#include <array>
+#include <chrono>
+#include <cstdio>
+#include <string>
+
+#include "base/utf8.h"
+#include "cli_command.h"
+#include "filelist/column_headings.h"
+#include "filelist/list_loader.h"
+#include "filelist/media_source.h"
+#include "persist/option_store.h"
+#include "platform/files.h"
+#include "shell/app_state.h"
+#include "shell/cancel.h"
+#include "shell/cli_interaction.h"
+#include "shell/message_table.h"
+
+namespace tarnwick::cli {
+namespace {
+
+constexpr std::string_view kCommand = "list";
+
+enum class Format { kTsv, kJson };
+
+struct ListArgs {
+  std::string folder;
+  bool subfolders = false;
+  std::string filter = "*.*";
+  Format format = Format::kTsv;
+};
+
+// Keys of the columns in JSON, and the headings of the hidden ones in TSV.
+constexpr std::array<std::string_view, file_column::kCount> kJsonKeys = {
+    "name",      "size",       "type",      "date",  "attributes", "path",
+    "mediainfo", "foldername", "exif_date", "bytes", "extension"};
+
+std::optional<std::string> ParseArgs(std::span<const std::string> args, ListArgs& out) {
+  bool have_folder = false;
+  for (std::size_t i = 0; i < args.size(); ++i) {
+    const std::string& arg = args[i];
+    if (arg == "--subfolders") {
+      out.subfolders = true;
+    } else if (arg == "--tsv") {
+      out.format = Format::kTsv;
+    } else if (arg == "--json") {
+      out.format = Format::kJson;
+    } else if (arg == "--filter") {
+      if (i + 1 >= args.size()) return "--filter needs a pattern such as \"*.jpg\"";
+      out.filter = args[++i];
+    } else if (arg.starts_with("--")) {
+      return "unknown option '" + arg + "'";
+    } else if (have_folder) {
+      return "only one DIR is expected";
+    } else {
+      out.folder = arg;
+      have_folder = true;
+    }
+  }
+  if (!have_folder) return "DIR is missing";
+  if (!out.filter.starts_with("*.")) return "--filter takes the form \"*.ext\" or \"*.*\"";
+  return std::nullopt;
+}
+
+// Shows status and progress only once a fill has taken longer than a moment.
+class PatientInteraction : public CliInteraction {
+ public:
+  using CliInteraction::CliInteraction;
+  void ShowStatus(StatusArea area, std::string_view text) override {
+    if (Due()) CliInteraction::ShowStatus(area, text);
+  }
+  void ShowProgress(std::int64_t value, std::int64_t max) override {
+    if (Due()) CliInteraction::ShowProgress(value, max);
+  }
+
+ private:
+  bool Due() const { return std::chrono::steady_clock::now() - start_ > kMoment; }
+  static constexpr std::chrono::milliseconds kMoment{400};
+  std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
+};
+
+// The fill's log lines go to standard error on the command line.
+class StderrLog : public FileListLog {
+ public:
+  explicit StderrLog(std::ostream& err) : err_(err) {}
+  void WriteLogFileHeader() override {}
+  void WriteLogFileTool(std::string_view subject, std::string_view text) override {
+    err_ << kProgramName << ": " << subject << ": " << text << '\n';
+  }
+
+ private:
+  std::ostream& err_;
+};
+
+// Tabs, line ends and backslashes escaped, so a row stays one line.
+std::string TsvField(std::string_view text) {
+  std::string out;
+  for (char c : text) {
+    if (c == '\t')
+      out += "\\t";
+    else if (c == '\n')
+      out += "\\n";
+    else if (c == '\r')
+      out += "\\r";
+    else if (c == '\\')
+      out += "\\\\";
+    else
+      out += c;
+  }
+  return out;
+}
+
+// A JSON string; bytes that are not UTF-8 become U+FFFD.
+std::string JsonString(std::string_view text) {
+  std::string out = "\"";
+  for (const utf8::Char c : utf8::Chars(text)) {
+    if (!c.valid) {
+      out += "\xEF\xBF\xBD";
+    } else if (c.code_point == '"' || c.code_point == '\\') {
+      out += '\\';
+      out += static_cast<char>(c.code_point);
+    } else if (c.code_point < 0x20) {
+      char escaped[8];
+      std::snprintf(escaped, sizeof escaped, "\\u%04x", static_cast<unsigned>(c.code_point));
+      out += escaped;
+    } else {
+      utf8::AppendCodePoint(out, c.code_point);
+    }
+  }
+  return out + "\"";
+}
+
+void PrintTsv(const FileList& list, const std::array<std::string, file_column::kCount>& headings,
+              std::ostream& out) {
+  for (int c = 0; c < file_column::kCount; ++c) {
+    const std::string heading = headings[c].empty() ? std::string(kJsonKeys[c]) : headings[c];
+    out << (c ? "\t" : "") << TsvField(heading);
+  }
+  out << '\n';
+  for (std::size_t r = 0; r < list.size(); ++r) {
+    for (int c = 0; c < file_column::kCount; ++c) {
+      out << (c ? "\t" : "") << TsvField(list.Text(r, c));
+    }
+    out << '\n';
+  }
+}
+
+void PrintJson(const FileList& list, std::ostream& out) {
+  out << '[';
+  for (std::size_t r = 0; r < list.size(); ++r) {
+    out << (r ? ",\n " : "\n ") << '{';
+    for (int c = 0; c < file_column::kCount; ++c) {
+      out << (c ? ", " : "") << '"' << kJsonKeys[c] << "\": " << JsonString(list.Text(r, c));
+    }
+    out << '}';
+  }
+  out << (list.empty() ? "]\n" : "\n]\n");
+}
+
+int RunList(std::span<const std::string> args, CliIo& io) {
+  ListArgs a;
+  if (const auto error = ParseArgs(args, a)) return UsageError(io, kCommand, *error);
+  if (!FolderExists(a.folder)) return Failure(io, "no such folder: " + a.folder);
+  OptionStore options = OptionStore::ForCurrentUser();
+  AppState state;
+  state.CurrentFilter = a.filter;
+  TakeViewFlags(options, state);
+  PatientInteraction ui(CliOptions{});
+  StderrLog log(io.err);
+  FileRowMediaSource media;
+  const MessageTable& messages = MessageTable::Get(SystemLanguage());
+  FileListLoader loader({options, state, ui, log, media, messages});
+  FileList list;
+  bool cancelled = false;
+  {
+    ScopedInterruptCancel interrupt(state);
+    loader.FillListView(list, {a.folder, a.subfolders});
+    cancelled = TakeInterruptRequest();
+  }
+  ui.HideProgress();
+  if (a.format == Format::kJson) {
+    PrintJson(list, io.out);
+  } else {
+    PrintTsv(list, ColumnHeadings(options, messages), io.out);
+  }
+  return cancelled ? kExitFailure : kExitOk;
+}
+
+constexpr std::array<CommandForm, 1> kForms = {{
+    {"list DIR [--subfolders] [--filter \"*.ext\"] [--tsv|--json]",
+     "print the rows the file list holds for DIR, with all eleven columns"},
+}};
+
+constexpr std::string_view kDetails =
+    "Options:\n"
+    "  --subfolders      walk the subfolders too (a folder that is hidden and\n"
+    "                    system gives no rows, its subfolders do)\n"
+    "  --filter \"*.ext\"  only files with this extension (case-insensitive)\n"
+    "  --tsv             tab-separated, one heading line (the default); tabs,\n"
+    "                    line ends and backslashes in texts are escaped\n"
+    "  --json            an array of objects with the keys name, size, type,\n"
+    "                    date, attributes, path, mediainfo, foldername,\n"
+    "                    exif_date, bytes, extension\n"
+    "\n"
+    "Rows come in name order without regard to case, folder after folder.\n"
+    "The options ShowHiddenFiles, ShowSystemFiles, LoadOnlyFileName,\n"
+    "FileDateType and DateFormat apply. On a terminal a progress line shows\n"
+    "for fills that take a while; Ctrl-C stops the fill, prints the rows read\n"
+    "so far and exits with 1.\n";
+
+}  // namespace
+
+extern const Command kListCommand = {
+    .name = kCommand,
+    .summary = "list the files of a folder as the file list holds them",
+    .forms = kForms,
+    .details = kDetails,
+    .run = RunList,
+};
+
+}  // namespace tarnwick::cli
