@@ -98,6 +98,11 @@ namespace tarnwick {
 // case-insensitive comparison of option values and names.
 bool EqualsText(std::string_view a, std::string_view b);
 
+// True when `find` stands in `text` / `text` begins with `prefix`, under
+// text compare. An empty `find` or `prefix` is always there.
+bool ContainsText(std::string_view text, std::string_view find);
+bool StartsWithText(std::string_view text, std::string_view prefix);
+
 // A tag value up to, not including, its first NUL character. Without a NUL
 // the whole value trimmed of blanks at both ends; a value cut at a NUL is not
 // trimmed.

@@ -1,4 +1,4 @@
-// InStr and InStrRev.
+// InStr, InStrRev and the searches built on them.
 #include "base/text.h"
 #include "base/text_find.h"
 #include "base/utf8.h"
@@ -49,3 +49,15 @@ std::int64_t InStrRev(std::string_view text, std::string_view find, std::int64_t
 }
 
 }  // namespace tarnwick::vb
+
+namespace tarnwick {
+
+bool ContainsText(std::string_view text, std::string_view find) {
+  return find.empty() || vb::InStr(text, find, vb::Compare::kText) > 0;
+}
+
+bool StartsWithText(std::string_view text, std::string_view prefix) {
+  return EqualsText(vb::Left(text, vb::Len(prefix)), prefix);
+}
+
+}  // namespace tarnwick

@@ -109,6 +109,17 @@ bool IsAscii(std::string_view text) {
   return true;
 }
 
+std::vector<std::string_view> SplitChars(std::string_view text) {
+  std::vector<std::string_view> chars;
+  chars.reserve(text.size());
+  for (std::size_t at = 0; at < text.size();) {
+    const std::size_t size = DecodeAt(text, at).size;
+    chars.push_back(text.substr(at, size));
+    at += size;
+  }
+  return chars;
+}
+
 void AppendCodePoint(std::string& out, char32_t c) {
   if (c < 0x80) {
     out += static_cast<char>(c);

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 // Characters of a UTF-8 text. A character is one well-formed code point, or
 // one byte that does not start a well-formed sequence. Such a byte counts as
@@ -40,6 +41,9 @@ std::size_t Advance(std::string_view text, std::size_t from, std::size_t count);
 
 // True when every byte is below 0x80.
 bool IsAscii(std::string_view text);
+
+// The characters of a text, each as its bytes (views into `text`).
+std::vector<std::string_view> SplitChars(std::string_view text);
 
 // The UTF-8 bytes of a code point; nothing for a surrogate or a value beyond
 // U+10FFFF.

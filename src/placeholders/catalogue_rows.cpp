@@ -1,12 +1,13 @@
 #include "placeholders/catalogue_rows.h"
 
 #include <array>
-#include <cstdio>
 #include <ctime>
 
+#include "base/text.h"
+#include "base/vb_date.h"
+#include "base/vb_format.h"
 #include "placeholders/catalogue.h"
 #include "placeholders/name_cipher.h"
-#include "placeholders/text_ops_chars.h"
 
 namespace tarnwick {
 namespace {
@@ -23,11 +24,7 @@ constexpr std::array<std::string_view, 7> kEnglishDays = {
 constexpr std::array<std::string_view, 7> kGermanDays = {
     "Montag", "Dienstag", "Mittwoch", "Donnerstag", "Freitag", "Samstag", "Sonntag"};
 
-std::string TwoDigits(int value) {
-  char text[16];
-  std::snprintf(text, sizeof text, "%02d", value);
-  return text;
-}
+std::string TwoDigits(int value) { return vb::Format(value, "00"); }
 
 std::string Joined(int a, int b, std::string_view separator, const std::string& c) {
   return TwoDigits(a) + std::string(separator) + TwoDigits(b) + std::string(separator) + c;
@@ -35,11 +32,9 @@ std::string Joined(int a, int b, std::string_view separator, const std::string& 
 
 // 0 for Monday.
 int WeekdayFromMonday(const CatalogueMoment& now) {
-  const std::chrono::year_month_day date{std::chrono::year(now.year),
-                                         std::chrono::month(static_cast<unsigned>(now.month)),
-                                         std::chrono::day(static_cast<unsigned>(now.day))};
-  if (!date.ok()) return 0;
-  return static_cast<int>(std::chrono::weekday(std::chrono::sys_days(date)).iso_encoding()) - 1;
+  const vb::DateTime date{now.year, now.month, now.day};
+  if (!vb::IsValidDate(date)) return 0;
+  return vb::Weekday(date, vb::kMonday) - 1;
 }
 
 std::string CipherSample(const CatalogueEntry& entry) {
@@ -73,7 +68,7 @@ std::string Sample(const CatalogueEntry& entry, CatalogueLanguage language,
     case SampleRule::kCurrentSecond:
       return TwoDigits(now.second);
     case SampleRule::kCurrentQuarter:
-      return month_ok ? std::to_string((now.month - 1) / 3 + 1) : std::string();
+      return month_ok ? std::to_string(vb::Quarter({now.year, now.month, 1})) : std::string();
     case SampleRule::kCurrentMonthName:
       if (!month_ok) return {};
       return std::string(german ? kGermanMonths[now.month - 1] : kEnglishMonths[now.month - 1]);
@@ -94,13 +89,12 @@ std::string_view InnerTag(std::string_view tag) {
 }
 
 bool MatchesStart(const CatalogueRow& row, std::string_view text) {
-  return text_ops_detail::StartsWithIgnoringCase(InnerTag(row.tag), text);
+  return StartsWithText(InnerTag(row.tag), text);
 }
 
 bool MatchesAnywhere(const CatalogueRow& row, std::string_view text) {
-  return text_ops_detail::ContainsIgnoringCase(row.tag, text) ||
-         text_ops_detail::ContainsIgnoringCase(row.sample, text) ||
-         text_ops_detail::ContainsIgnoringCase(row.description, text);
+  return ContainsText(row.tag, text) || ContainsText(row.sample, text) ||
+         ContainsText(row.description, text);
 }
 
 template <typename Match>

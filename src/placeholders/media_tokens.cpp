@@ -1,10 +1,10 @@
 // The media tokens: MP3 tags, MPEG stream facts and EXIF values, through the
 // media provider.
+#include "base/text.h"
 #include "base/vb_error.h"
 #include "placeholders/date_tokens.h"
 #include "placeholders/media_text.h"
 #include "placeholders/number_text.h"
-#include "placeholders/text_ops_chars.h"
 #include "placeholders/token_steps.h"
 
 namespace tarnwick::token_steps {
@@ -114,8 +114,8 @@ struct TagPass {
       v1_value = FormatTextWithZeroMask(v1_value, "00");
       v2_value = FormatTextWithZeroMask(v2_value, "00");
     }
-    if (!text_ops_detail::TrimBlanks(v2_value).empty()) return v2_value;
-    if (!text_ops_detail::TrimBlanks(v1_value).empty()) return v1_value;
+    if (!vb::Trim(v2_value).empty()) return v2_value;
+    if (!vb::Trim(v1_value).empty()) return v1_value;
     return {};
   }
 
@@ -216,22 +216,18 @@ std::string ExifValue(const ExpansionPass& pass, int tag, bool time) {
 
 // The original date of a picture as a date, for the name tokens.
 DateValue ExifOriginalDate(const ExpansionPass& pass) {
-  std::string value = text_ops_detail::TrimBlanks(ExifValue(pass, kOriginalDateTime, false));
+  std::string value = vb::Trim(ExifValue(pass, kOriginalDateTime, false));
   ReplaceToken(value, ":", ".");
-  const auto chars = text_ops_detail::SplitCharacters(value);
-  const auto date =
-      ParseDateText(text_ops_detail::Join(
-                        {chars.begin(), chars.begin() + std::min<std::size_t>(10, chars.size())}),
-                    "yyyy.mm.dd");
+  const auto date = ParseDateText(vb::Left(value, 10), "yyyy.mm.dd");
   if (!date) throw VbError(vb_error::kTypeMismatch, "Type mismatch");
   return *date;
 }
 
+// `count` characters (all with npos) from the 0-based character `first`.
 std::string CharactersFrom(std::string_view text, std::size_t first, std::size_t count) {
-  const auto chars = text_ops_detail::SplitCharacters(text);
-  if (first >= chars.size()) return {};
-  const std::size_t end = count >= chars.size() - first ? chars.size() : first + count;
-  return text_ops_detail::Join({chars.begin() + first, chars.begin() + end});
+  const std::int64_t start = static_cast<std::int64_t>(first) + 1;
+  if (count == std::string::npos) return vb::Mid(text, start);
+  return vb::Mid(text, start, static_cast<std::int64_t>(count));
 }
 
 }  // namespace

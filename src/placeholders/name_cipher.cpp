@@ -3,8 +3,9 @@
 #include <optional>
 #include <vector>
 
+#include "base/text.h"
+#include "base/utf8.h"
 #include "placeholders/name_cipher_bytes.h"
-#include "placeholders/text_ops_chars.h"
 
 namespace tarnwick {
 namespace {
@@ -32,7 +33,8 @@ std::uint16_t WordOf(std::string_view bytes, std::size_t at) {
 }
 
 // Sixteen characters as four words, or std::nullopt if one is not a digit.
-std::optional<SkipjackBlock> ParseBlock(const std::vector<std::string>& chars, std::size_t at) {
+std::optional<SkipjackBlock> ParseBlock(const std::vector<std::string_view>& chars,
+                                        std::size_t at) {
   SkipjackBlock block{};
   for (std::size_t i = 0; i < kDigitsPerBlock; ++i) {
     const std::optional<int> digit = HexValue(chars[at + i]);
@@ -45,7 +47,7 @@ std::optional<SkipjackBlock> ParseBlock(const std::vector<std::string>& chars, s
 }  // namespace
 
 SkipjackKey NameCipherKey(std::string_view key) {
-  const std::vector<std::string> chars = text_ops_detail::SplitCharacters(key);
+  const std::vector<std::string_view> chars = utf8::SplitChars(key);
   SkipjackKey bytes{};
   for (std::size_t i = 0; i < bytes.size() && 2 * i < chars.size(); ++i) {
     const std::optional<int> high = HexValue(chars[2 * i]);
@@ -75,7 +77,7 @@ std::string EncryptName(std::string_view text, std::string_view key) {
 
 std::string DecryptName(std::string_view hex, std::string_view key) {
   const Skipjack cipher(NameCipherKey(key));
-  const std::vector<std::string> chars = text_ops_detail::SplitCharacters(hex);
+  const std::vector<std::string_view> chars = utf8::SplitChars(hex);
   std::string bytes;
   for (std::size_t at = 0; at + kDigitsPerBlock <= chars.size(); at += kDigitsPerBlock) {
     const std::optional<SkipjackBlock> block = ParseBlock(chars, at);
@@ -86,7 +88,7 @@ std::string DecryptName(std::string_view hex, std::string_view key) {
       bytes += static_cast<char>(plain[w] & 0xff);
     }
   }
-  return text_ops_detail::TrimBlanks(CipherBytesToName(bytes));
+  return vb::Trim(CipherBytesToName(bytes));
 }
 
 }  // namespace tarnwick

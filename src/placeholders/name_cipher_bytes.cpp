@@ -1,13 +1,12 @@
 #include "placeholders/name_cipher_bytes.h"
 
-#include <unicode/utf8.h>
+#include <optional>
 
-#include "placeholders/text_ops_chars.h"
+#include "base/code_page.h"
+#include "base/utf8.h"
 
 namespace tarnwick {
 namespace {
-
-using text_ops_detail::SingleByteCodePage;
 
 // The five bytes Windows-1252 leaves undefined. They have no character here,
 // so their C1 control characters travel as UTF-8 and a raw byte of that value
@@ -26,14 +25,14 @@ std::optional<unsigned char> CipherByteOf(char32_t code_point) {
 
 std::string NameToCipherBytes(std::string_view text) {
   std::string bytes;
-  for (const std::string& c : text_ops_detail::SplitCharacters(text)) {
-    const std::optional<char32_t> code_point = text_ops_detail::CodePointOf(c);
-    const std::optional<unsigned char> byte = code_point ? CipherByteOf(*code_point) : std::nullopt;
+  for (auto it = utf8::Chars(text).begin(); it != utf8::Chars(text).end(); ++it) {
+    const utf8::Char& c = *it;
+    const std::optional<unsigned char> byte = c.valid ? CipherByteOf(c.code_point) : std::nullopt;
     // A byte of the code page, else the UTF-8 bytes or the invalid byte as they are.
     if (byte) {
       bytes += static_cast<char>(*byte);
     } else {
-      bytes += c;
+      bytes.append(it.bytes());
     }
   }
   return bytes;
@@ -41,17 +40,14 @@ std::string NameToCipherBytes(std::string_view text) {
 
 std::string CipherBytesToName(std::string_view bytes) {
   std::string text;
-  const auto length = static_cast<int32_t>(bytes.size());
-  for (int32_t i = 0; i < length;) {
-    const int32_t start = i;
-    UChar32 c = -1;
-    U8_NEXT(bytes.data(), i, length, c);
+  for (std::size_t start = 0; start < bytes.size(); ++start) {
     // A complete multi-byte sequence of a character the code page lacks.
-    if (c >= 0 && i - start > 1 && !CipherByteOf(static_cast<char32_t>(c))) {
-      text.append(bytes.substr(start, i - start));
+    const std::size_t size = utf8::ValidSequenceAt(bytes, start);
+    if (size > 1 && !CipherByteOf(utf8::DecodeAt(bytes, start).code_point)) {
+      text.append(bytes.substr(start, size));
+      start += size - 1;
       continue;
     }
-    i = start + 1;
     const auto b = static_cast<unsigned char>(bytes[start]);
     if (IsUndefined(b)) {
       text += bytes[start];

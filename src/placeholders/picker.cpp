@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "placeholders/text_ops_chars.h"
+#include "base/text.h"
 
 namespace tarnwick {
 namespace {
@@ -11,16 +11,13 @@ namespace {
 // The text split at a character position; a position beyond the end splits
 // after the last character.
 std::pair<std::string, std::string> SplitAt(std::string_view text, std::size_t position) {
-  const std::vector<std::string> chars = text_ops_detail::SplitCharacters(text);
-  std::pair<std::string, std::string> parts;
-  for (std::size_t i = 0; i < chars.size(); ++i)
-    (i < position ? parts.first : parts.second) += chars[i];
-  return parts;
+  const auto count = static_cast<std::int64_t>(std::min<std::size_t>(position, text.size()));
+  std::string first = vb::Left(text, count);
+  std::string rest(text.substr(first.size()));
+  return {std::move(first), std::move(rest)};
 }
 
-std::size_t LengthOf(std::string_view text) {
-  return text_ops_detail::SplitCharacters(text).size();
-}
+std::size_t LengthOf(std::string_view text) { return static_cast<std::size_t>(vb::Len(text)); }
 
 }  // namespace
 
@@ -32,7 +29,7 @@ void PatternPicker::ShowMe(std::vector<CatalogueRow> rows, std::string_view fiel
   selected_.assign(rows_.size(), false);
   in_use_.assign(rows_.size(), false);
   for (std::size_t i = 0; i < rows_.size(); ++i) {
-    in_use_[i] = text_ops_detail::ContainsIgnoringCase(field_text, rows_[i].tag);
+    in_use_[i] = ContainsText(field_text, rows_[i].tag);
   }
 }
 

@@ -1,23 +1,30 @@
 #include "placeholders/text_ops.h"
 
-#include <algorithm>
-#include <vector>
-
-#include "placeholders/text_ops_chars.h"
+#include "base/text.h"
+#include "base/utf8.h"
 
 namespace tarnwick {
 namespace {
 
-using text_ops_detail::Join;
-using text_ops_detail::LowerOf;
-using text_ops_detail::SplitCharacters;
-using text_ops_detail::UpperOf;
+using vb::LCase;
+using vb::UCase;
 
 bool IsAsciiDigit(char c) { return c >= '0' && c <= '9'; }
 bool IsAsciiLetter(char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }
 
 // A character has case when its upper and lower forms differ.
-bool HasCase(const std::string& c) { return UpperOf(c) != LowerOf(c); }
+bool HasCase(std::string_view c) { return UCase(c) != LCase(c); }
+
+// Each character of the text through `map`, in order.
+template <typename Map>
+std::string MapChars(std::string_view text, Map map) {
+  std::string out;
+  out.reserve(text.size());
+  for (auto it = utf8::Chars(text).begin(); it != utf8::Chars(text).end(); ++it) {
+    out += map(it.bytes());
+  }
+  return out;
+}
 
 template <typename Keep>
 std::string KeepBytes(std::string_view text, Keep keep) {
@@ -29,16 +36,14 @@ std::string KeepBytes(std::string_view text, Keep keep) {
 }
 
 std::string ChangeFirst(std::string_view text, bool upper) {
-  std::vector<std::string> chars = SplitCharacters(text);
-  if (chars.empty()) return {};
-  chars[0] = upper ? UpperOf(chars[0]) : LowerOf(chars[0]);
-  return Join(chars);
+  const std::string first = vb::Left(text, 1);
+  return (upper ? UCase(first) : LCase(first)) + std::string(text.substr(first.size()));
 }
 
 }  // namespace
 
 std::string MakeZeroMask(std::string_view text) {
-  return std::string(SplitCharacters(text).size(), '0');
+  return std::string(static_cast<std::size_t>(vb::Len(text)), '0');
 }
 
 std::string DynamicZeroMask(std::size_t selected_count) {
@@ -49,12 +54,10 @@ std::string FirstCharUpper(std::string_view text) { return ChangeFirst(text, tru
 std::string FirstCharLower(std::string_view text) { return ChangeFirst(text, false); }
 
 std::string SwapCasing(std::string_view text) {
-  std::string out;
-  for (const std::string& c : SplitCharacters(text)) {
-    const std::string lower = LowerOf(c);
-    out += c == lower ? UpperOf(c) : lower;
-  }
-  return out;
+  return MapChars(text, [](std::string_view c) {
+    std::string lower = LCase(c);
+    return c == lower ? UCase(c) : lower;
+  });
 }
 
 // Digits and ASCII letters are single bytes that never occur inside a
@@ -75,9 +78,9 @@ std::string RemoveBrackets(std::string_view text) {
 std::string RemoveRepeatedChars(std::string_view text, bool to_upper,
                                 const std::function<void()>& yield) {
   std::string result;
-  for (std::string c : SplitCharacters(text)) {
-    if (to_upper) c = UpperOf(c);
-    if (!text_ops_detail::ContainsIgnoringCase(result, c)) result += c;
+  for (auto it = utf8::Chars(text).begin(); it != utf8::Chars(text).end(); ++it) {
+    const std::string c = to_upper ? UCase(it.bytes()) : std::string(it.bytes());
+    if (!ContainsText(result, c)) result += c;
     if (yield) yield();
   }
   return result;
@@ -87,35 +90,20 @@ std::string ConvertUmlauts(std::string_view text) {
   static constexpr std::pair<std::string_view, std::string_view> kUmlauts[] = {
       {"ä", "ae"}, {"ö", "oe"}, {"ü", "ue"}, {"ß", "ss"}, {"Ä", "Ae"}, {"Ö", "Oe"}, {"Ü", "Ue"}};
   std::string out(text);
-  for (const auto& [from, to] : kUmlauts) {
-    std::string next;
-    std::size_t pos = 0;
-    for (std::size_t hit; (hit = out.find(from, pos)) != std::string::npos;
-         pos = hit + from.size()) {
-      next.append(out, pos, hit - pos);
-      next += to;
-    }
-    next.append(out, pos);
-    out = std::move(next);
-  }
+  for (const auto& [from, to] : kUmlauts) out = vb::Replace(out, from, to);
   return out;
 }
 
-std::string ReverseText(std::string_view text) {
-  std::vector<std::string> chars = SplitCharacters(text);
-  std::reverse(chars.begin(), chars.end());
-  return Join(chars);
-}
+std::string ReverseText(std::string_view text) { return vb::StrReverse(text); }
 
 std::string ProperCase(std::string_view text) {
-  std::string out;
   bool in_word = false;
-  for (const std::string& c : SplitCharacters(text)) {
+  return MapChars(text, [&](std::string_view c) {
     const bool letter = HasCase(c);
-    out += letter ? (in_word ? LowerOf(c) : UpperOf(c)) : c;
+    const std::string out = letter ? (in_word ? LCase(c) : UCase(c)) : std::string(c);
     in_word = letter || IsAsciiDigit(c[0]) || c == "'";
-  }
-  return out;
+    return out;
+  });
 }
 
 std::string RemoveDoubleBlanks(std::string_view text) {
@@ -128,30 +116,22 @@ std::string RemoveDoubleBlanks(std::string_view text) {
 }
 
 std::string CamelCase(std::string_view text) {
-  std::string out;
   bool upper = false;
-  for (const std::string& c : SplitCharacters(text)) {
-    if (!HasCase(c)) {
-      out += c;
-      continue;
-    }
-    out += upper ? UpperOf(c) : LowerOf(c);
+  return MapChars(text, [&](std::string_view c) {
+    if (!HasCase(c)) return std::string(c);
+    const bool make_upper = upper;
     upper = !upper;
-  }
-  return out;
+    return make_upper ? UCase(c) : LCase(c);
+  });
 }
 
+// Digits are single bytes that never occur inside a multi-byte character.
 std::string FirstNumber(std::string_view text, std::size_t start) {
-  const std::vector<std::string> chars = SplitCharacters(text);
-  std::string digits;
-  for (std::size_t i = start == 0 ? 0 : start - 1; i < chars.size(); ++i) {
-    if (IsAsciiDigit(chars[i][0])) {
-      digits += chars[i];
-    } else if (!digits.empty()) {
-      break;
-    }
-  }
-  return digits;
+  const std::size_t from = utf8::ByteOffsetOf(text, start == 0 ? 0 : start - 1);
+  const std::size_t first = text.find_first_of("0123456789", from);
+  if (first == std::string_view::npos) return {};
+  const std::size_t end = text.find_first_not_of("0123456789", first);
+  return std::string(text.substr(first, end == std::string_view::npos ? end : end - first));
 }
 
 }  // namespace tarnwick

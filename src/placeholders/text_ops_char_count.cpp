@@ -1,8 +1,9 @@
 // The letter counter of {{count2char}} and {{count2alphanumeric}}.
 #include <vector>
 
+#include "base/text.h"
+#include "base/utf8.h"
 #include "placeholders/text_ops.h"
-#include "placeholders/text_ops_chars.h"
 
 namespace tarnwick {
 namespace {
@@ -21,7 +22,8 @@ std::size_t PositionIn(std::string_view alphabet, const std::string& c) {
 }
 
 CharCountStep Settled(const std::vector<std::string>& chars) {
-  const std::string text = text_ops_detail::Join(chars);
+  std::string text;
+  for (const std::string& c : chars) text += c;
   return {text, text};
 }
 
@@ -36,8 +38,9 @@ std::optional<CharCountStep> NextCharCount(std::string_view counter_text, bool a
     const std::string start = alphanumeric ? "A0" : "A";
     return CharCountStep{start, start};
   }
-  std::vector<std::string> chars =
-      text_ops_detail::SplitCharacters(text_ops_detail::TrimBlanks(counter_text));
+  const std::string trimmed = vb::Trim(counter_text);
+  const std::vector<std::string_view> views = utf8::SplitChars(trimmed);
+  std::vector<std::string> chars(views.begin(), views.end());
   // Kept: an empty counter has no character at position 0 and faults.
   if (chars.empty()) return std::nullopt;
 

@@ -3,10 +3,10 @@
 #include <cmath>
 #include <vector>
 
+#include "base/text.h"
 #include "base/vb_error.h"
 #include "placeholders/name_cipher.h"
 #include "placeholders/regex_token.h"
-#include "placeholders/text_ops_chars.h"
 #include "placeholders/token_steps.h"
 
 namespace tarnwick::token_steps {
@@ -46,10 +46,7 @@ std::string Argument(const ExpansionPass& pass, std::string_view head) {
   return std::string(index.expression().substr(start, end - start));
 }
 
-std::string FirstCharacter(std::string_view text) {
-  const auto chars = text_ops_detail::SplitCharacters(text.substr(0, 4));
-  return chars.empty() ? std::string() : chars.front();
-}
+std::string FirstCharacter(std::string_view text) { return vb::Left(text, 1); }
 
 std::vector<std::string> SplitIgnoringCase(std::string_view text, std::string_view separator) {
   std::vector<std::string> parts;
@@ -65,10 +62,7 @@ std::vector<std::string> SplitIgnoringCase(std::string_view text, std::string_vi
 }
 
 std::string BaseOf(std::string_view scratch, std::string_view ext) {
-  const auto chars = text_ops_detail::SplitCharacters(ext);
-  const auto all = text_ops_detail::SplitCharacters(scratch);
-  const std::size_t keep = all.size() > chars.size() ? all.size() - chars.size() : 0;
-  return text_ops_detail::Join({all.begin(), all.begin() + static_cast<std::ptrdiff_t>(keep)});
+  return vb::Left(scratch, std::max<std::int64_t>(vb::Len(scratch) - vb::Len(ext), 0));
 }
 
 std::string SwapParts(const std::vector<std::string>& parts, const std::string& c) {
@@ -76,7 +70,7 @@ std::string SwapParts(const std::vector<std::string>& parts, const std::string& 
   const std::string joint = blank ? " " + c + " " : c;
   std::string joined;
   for (auto part = parts.rbegin(); part != parts.rend(); ++part) {
-    joined += text_ops_detail::TrimBlanks(*part) + joint;
+    joined += vb::Trim(*part) + joint;
   }
   joined.resize(joined.size() - joint.size());
   return joined;
@@ -106,7 +100,7 @@ void RegEx(ExpansionPass& pass) {
     std::string scratch = RemoveToken(pass.text(), kHead, 1);
     scratch = RemoveToken(scratch, argument + std::string(kTail), 1);
     const std::vector<std::string> parts = SplitIgnoringCase(argument, "##");
-    if (text_ops_detail::SplitCharacters(argument).size() <= 1 || parts.size() != 2) return;
+    if (vb::Len(argument) <= 1 || parts.size() != 2) return;
     const bool ignore_case = pass.Option("IgnoreRegExCasing", "0") == "1";
     pass.text() = RegExReplace(scratch, parts[0], parts[1], ignore_case);
   });
@@ -119,13 +113,13 @@ void CipherToken(ExpansionPass& pass, std::string_view head, Cipher cipher) {
     const std::string key = Argument(pass, head);
     std::string scratch = RemoveToken(pass.text(), head);
     scratch = RemoveToken(scratch, key + std::string(kTail));
-    pass.text() = text_ops_detail::TrimBlanks(cipher(scratch, key));
+    pass.text() = vb::Trim(cipher(scratch, key));
   });
 }
 
 // `CInt` of the argument: a number rounded half to even, else type mismatch.
 long FolderIndex(const std::string& argument) {
-  const std::string text = text_ops_detail::TrimBlanks(argument);
+  const std::string text = vb::Trim(argument);
   char* end = nullptr;
   const double value = std::strtod(text.c_str(), &end);
   if (text.empty() || end != text.c_str() + text.size() || !std::isfinite(value)) {

@@ -1,19 +1,14 @@
 #include "placeholders/token_text.h"
 
-#include <unicode/uchar.h>
-#include <unicode/utf8.h>
+#include <utility>
 
-#include <algorithm>
+#include "base/text.h"
+#include "base/utf8.h"
 
 namespace tarnwick {
 namespace {
 
 char LowerAscii(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; }
-
-bool IsAscii(std::string_view text) {
-  return std::all_of(text.begin(), text.end(),
-                     [](char c) { return static_cast<unsigned char>(c) < 0x80; });
-}
 
 // A match: where it starts and how many bytes of the text it covers.
 struct Hit {
@@ -32,33 +27,20 @@ Hit FindAscii(std::string_view text, std::string_view find, std::size_t from) {
   return {};
 }
 
-// The next character at `at` as a folded code point; an invalid byte is its
-// own negative value so it only matches itself.
-UChar32 NextFolded(std::string_view text, std::size_t& at) {
-  const std::size_t start = at;
-  UChar32 c;
-  int32_t i = static_cast<int32_t>(at);
-  U8_NEXT(text.data(), i, static_cast<int32_t>(text.size()), c);
-  at = static_cast<std::size_t>(i);
-  if (c < 0) return -static_cast<UChar32>(static_cast<unsigned char>(text[start])) - 1;
-  return u_foldCase(c, U_FOLD_CASE_DEFAULT);
-}
-
+// The runtime's text compare: characters match after case folding, one for
+// one, so the match is as many characters long as `find`.
 Hit FindFolded(std::string_view text, std::string_view find, std::size_t from) {
-  for (std::size_t i = from; i < text.size();) {
-    std::size_t t = i;
-    std::size_t f = 0;
-    while (f < find.size() && t < text.size()) {
-      if (NextFolded(text, t) != NextFolded(find, f)) break;
-      if (f == find.size()) return {i, t - i};
-    }
-    NextFolded(text, i);
-  }
-  return {};
+  if (from >= text.size()) return {};
+  const std::int64_t start = vb::Len(text.substr(0, from)) + 1;
+  const std::int64_t position = vb::InStr(start, text, find, vb::Compare::kText);
+  if (position == 0) return {};
+  const std::size_t at = utf8::ByteOffsetOf(text, static_cast<std::size_t>(position - 1));
+  const std::size_t end = utf8::Advance(text, at, static_cast<std::size_t>(vb::Len(find)));
+  return {at, end - at};
 }
 
 Hit Find(std::string_view text, std::string_view find, std::size_t from) {
-  return IsAscii(find) ? FindAscii(text, find, from) : FindFolded(text, find, from);
+  return utf8::IsAscii(find) ? FindAscii(text, find, from) : FindFolded(text, find, from);
 }
 
 }  // namespace

@@ -8,7 +8,8 @@ namespace tarnwick {
 // Token matching in the running text. Tokens and their heads are ASCII, so
 // their case-insensitive search folds ASCII letters only and keeps byte
 // positions; an argument a user typed may hold any character and is matched
-// with full case folding.
+// with the text compare of base/text.h (simple case folding, one character
+// for one).
 
 // ASCII letters in lower case, every other byte as it is.
 std::string AsciiLower(std::string_view text);

@@ -1,23 +1,13 @@
 // The casing, cleaning and other whole-text tokens.
+#include "base/text.h"
 #include "base/vb_error.h"
 #include "persist/option_store.h"
 #include "placeholders/text_ops.h"
-#include "placeholders/text_ops_chars.h"
 #include "placeholders/token_steps.h"
 #include "platform/system_info.h"
 
 namespace tarnwick::token_steps {
 namespace {
-
-using text_ops_detail::LowerOf;
-using text_ops_detail::RTrimBlanks;
-using text_ops_detail::TrimBlanks;
-using text_ops_detail::UpperOf;
-
-std::string LTrimBlanks(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(' ');
-  return first == std::string_view::npos ? std::string() : std::string(text.substr(first));
-}
 
 std::string WithoutBlanks(std::string_view text) {
   std::string out;
@@ -50,8 +40,8 @@ void NumberWords(ExpansionPass& pass, std::string_view token, NumberLanguage lan
 }  // namespace
 
 void Casing(ExpansionPass& pass) {
-  pass.TransformToken("{{uppercasing}}", [](std::string s) { return UpperOf(s); });
-  pass.TransformToken("{{lowercasing}}", [](std::string s) { return LowerOf(s); });
+  pass.TransformToken("{{uppercasing}}", [](std::string s) { return vb::UCase(s); });
+  pass.TransformToken("{{lowercasing}}", [](std::string s) { return vb::LCase(s); });
   FirstCharToken(pass, "{{firstcharuppercasing}}",
                  [](const std::string& s) { return FirstCharUpper(s); });
   FirstCharToken(pass, "{{firstcharlowercasing}}",
@@ -61,10 +51,10 @@ void Casing(ExpansionPass& pass) {
 
 void Cleaning(ExpansionPass& pass) {
   if (!pass.index().HasPrefix("{{trim") && !pass.index().HasPrefix("{{remove_")) return;
-  pass.TransformToken("{{trim_left}}", [](std::string s) { return LTrimBlanks(s); });
+  pass.TransformToken("{{trim_left}}", [](std::string s) { return vb::LTrim(s); });
   pass.TransformToken("{{trim_right}}",
                       [](std::string s) { return TrimRightKeepingExtension(s, ExtensionOf(s)); });
-  pass.TransformToken("{{trim}}", [](std::string s) { return TrimBlanks(s); });
+  pass.TransformToken("{{trim}}", [](std::string s) { return vb::Trim(s); });
   pass.TransformToken("{{remove_spaces}}", [](std::string s) { return WithoutBlanks(s); });
   pass.TransformToken("{{remove_numbers}}", [](std::string s) { return RemoveNumbers(s); });
   pass.TransformToken("{{remove_chars}}", [](std::string s) { return RemoveChars(s); });

@@ -96,6 +96,9 @@ TEST(Utf8Test, WalksCharactersWithOffsets) {
   EXPECT_EQ(utf8::DecodeAt(kMixed, 10).code_point, 0xFFu);
   EXPECT_EQ(utf8::ByteOffsetOf(kMixed, 3), 6u);
   EXPECT_EQ(utf8::ByteOffsetOf(kMixed, 9), kMixed.size());
+  EXPECT_EQ(utf8::SplitChars(kMixed),
+            (std::vector<std::string_view>{"a", "ä", "€", "𝄞", "\xff", "b"}));
+  EXPECT_TRUE(utf8::SplitChars("").empty());
 }
 
 TEST(Utf8Test, AppendsOnlyEncodableCodePoints) {

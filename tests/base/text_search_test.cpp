@@ -85,5 +85,17 @@ TEST(TextSearchTest, StrCompAndEqualsText) {
   EXPECT_FALSE(EqualsText("\xe9", "\xc9"));  // bytes have no case
 }
 
+TEST(TextSearchTest, ContainsAndStartsWithIgnoreCase) {
+  EXPECT_TRUE(ContainsText("{{Uppercasing}}", "CASING"));
+  EXPECT_TRUE(ContainsText("Übersicht", "ÜBER"));
+  EXPECT_TRUE(ContainsText("", ""));
+  EXPECT_FALSE(ContainsText("", "a"));
+  EXPECT_FALSE(ContainsText("abc", "abcd"));
+  EXPECT_TRUE(StartsWithText("Übersicht", "üb"));
+  EXPECT_TRUE(StartsWithText("abc", ""));
+  EXPECT_FALSE(StartsWithText("abc", "bc"));
+  EXPECT_FALSE(StartsWithText("ab", "abc"));
+}
+
 }  // namespace
 }  // namespace tarnwick

@@ -63,6 +63,30 @@ TEST(TextOpsTest, AnsiAndOemConversionsGoThroughTheBytes) {
   EXPECT_EQ(ConvertOemToAnsi("Ā"), "Ā");
 }
 
+TEST(TextOpsTest, OemToAnsiReadsEveryAnsiByte) {
+  // 0x81 is undefined in Windows-1252 and stands for U+0081; as an OEM byte it
+  // is "ü", as OemToChar gives it.
+  EXPECT_EQ(ConvertOemToAnsi("\u0081"), "ü");
+  EXPECT_EQ(ConvertAnsiToOem("\u0081"), "\u0081");
+}
+
+TEST(TextOpsTest, LatinOneBytesSurviveTheTextOperations) {
+  // A name from a Latin-1 disk: "\xe9" is not UTF-8 and is one character.
+  const std::string name = "caf\xe9 12.txt";
+  EXPECT_EQ(MakeZeroMask(name), "00000000000");
+  EXPECT_EQ(ReverseKeepingExtension(name, ".txt"),
+            "21 \xe9"
+            "fac.txt");
+  EXPECT_EQ(RemoveDotsKeepingExtension(name, ".txt"), name);
+  EXPECT_EQ(TrimRightKeepingExtension("caf\xe9  .txt", ".txt"), "caf\xe9.txt");
+  EXPECT_EQ(FirstNumber(name), "12");
+  EXPECT_EQ(FirstNumber(name, 7), "2");
+  EXPECT_EQ(ProperCase(name), "Caf\xe9 12.Txt");
+  EXPECT_EQ(ConvertUmlauts("M\xfcller ä"), "M\xfcller ae");
+  EXPECT_EQ(ConvertAnsiToOem(name), name);
+  EXPECT_EQ(RemoveRepeatedChars("\xe9\xe9\xc9", false), "\xe9\xc9");
+}
+
 TEST(TextOpsTest, UmlautsAreSpelledOutCaseSensitively) {
   EXPECT_EQ(ConvertUmlauts("Ä"), "Ae");
   EXPECT_EQ(ConvertUmlauts("ÄÖ"), "AeOe");
