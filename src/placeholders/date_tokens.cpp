@@ -1,135 +1,22 @@
 // The date and time tokens of the file date and of the clock.
 #include "placeholders/date_tokens.h"
 
-#include <unicode/calendar.h>
-#include <unicode/dtfmtsym.h>
-#include <unicode/locid.h>
-
-#include <chrono>
-#include <memory>
-#include <vector>
-
+#include "base/vb_date_names.h"
 #include "base/vb_error.h"
 #include "placeholders/token_steps.h"
 
 namespace tarnwick {
-namespace {
 
-std::string TwoDigits(int value) {
-  std::string out = std::to_string(value);
-  return out.size() < 2 ? "0" + out : out;
+DateValue CurrentDateTime(const ExpansionContext& context) {
+  if (context.clock) return context.clock->Now();
+  if (!context.now) return {};
+  const ClockReading r = context.now();
+  return {r.year, r.month, r.day, r.hour, r.minute, r.second};
 }
 
-std::chrono::year_month_day YearMonthDay(const DateValue& date) {
-  return std::chrono::year{date.year} / std::chrono::month{static_cast<unsigned>(date.month)} /
-         std::chrono::day{static_cast<unsigned>(date.day)};
-}
-
-// 0 for Sunday to 6 for Saturday.
-int WeekdayFromSunday(const DateValue& date) {
-  return static_cast<int>(
-      std::chrono::weekday{std::chrono::sys_days{YearMonthDay(date)}}.c_encoding());
-}
-
-int WeekOfYear(const DateValue& date) {
-  const DateValue first{date.year, 1, 1};
-  const auto days =
-      std::chrono::sys_days{YearMonthDay(date)} - std::chrono::sys_days{YearMonthDay(first)};
-  return (static_cast<int>(days.count()) + WeekdayFromSunday(first)) / 7 + 1;
-}
-
-std::vector<int> NumbersOf(std::string_view text) {
-  std::vector<int> numbers;
-  for (std::size_t i = 0; i < text.size();) {
-    if (text[i] < '0' || text[i] > '9') {
-      ++i;
-      continue;
-    }
-    int value = 0;
-    std::size_t digits = 0;
-    for (; i < text.size() && text[i] >= '0' && text[i] <= '9'; ++i, ++digits) {
-      if (digits < 6) value = value * 10 + (text[i] - '0');
-    }
-    numbers.push_back(digits == 4 && numbers.empty() ? -value : value);  // a leading year
-  }
-  return numbers;
-}
-
-bool IsValid(const DateValue& d) {
-  return YearMonthDay(d).ok() && d.year >= 100 && d.year <= 9999 && d.hour < 24 && d.minute < 60 &&
-         d.second < 60;
-}
-
-bool HasOnlyDateCharacters(std::string_view text) {
-  for (char c : text) {
-    if (!(c >= '0' && c <= '9') && c != '.' && c != '-' && c != '/' && c != ':' && c != ' ') {
-      return false;
-    }
-  }
-  return true;
-}
-
-}  // namespace
-
-std::optional<DateValue> ParseDateText(std::string_view text, std::string_view date_format) {
-  if (!HasOnlyDateCharacters(text)) return std::nullopt;
-  std::vector<int> n = NumbersOf(text);
-  if (n.size() < 3 || n.size() > 6) return std::nullopt;
-  DateValue date;
-  if (n[0] < 0) {  // year first
-    date.year = -n[0];
-    date.month = n[1];
-    date.day = n[2];
-  } else {
-    const std::size_t d = date_format.find('d');
-    const std::size_t m = date_format.find('m');
-    const std::size_t y = date_format.find('y');
-    const bool month_first = m != std::string_view::npos && d != std::string_view::npos && m < d;
-    date.day = month_first ? n[1] : n[0];
-    date.month = month_first ? n[0] : n[1];
-    date.year = y != std::string_view::npos && y < std::min(d, m) ? n[0] : n[2];
-    if (y != std::string_view::npos && y < std::min(d, m)) {
-      date.month = m < d ? n[1] : n[2];
-      date.day = m < d ? n[2] : n[1];
-    }
-    if (date.year < 100) date.year += date.year < 30 ? 2000 : 1900;
-  }
-  if (n.size() > 3) date.hour = n[3];
-  if (n.size() > 4) date.minute = n[4];
-  if (n.size() > 5) date.second = n[5];
-  if (!IsValid(date)) return std::nullopt;
-  return date;
-}
-
-std::string FormatDatePattern(const DateValue& date, std::string_view pattern) {
-  std::string out;
-  bool after_hour = false;
-  for (std::size_t i = 0; i < pattern.size();) {
-    const std::string_view rest = pattern.substr(i);
-    if (rest.starts_with("yyyy")) {
-      out += std::to_string(date.year);
-      i += 4;
-    } else if (rest.starts_with("dd")) {
-      out += TwoDigits(date.day);
-      i += 2;
-    } else if (rest.starts_with("hh")) {
-      out += TwoDigits(date.hour);
-      after_hour = true;
-      i += 2;
-    } else if (rest.starts_with("mm")) {
-      out += TwoDigits(after_hour ? date.minute : date.month);
-      i += 2;
-    } else if (rest.starts_with("ss")) {
-      out += TwoDigits(date.second);
-      i += 2;
-    } else if (rest.starts_with("ww")) {
-      out += std::to_string(WeekOfYear(date));
-      i += 2;
-    } else {
-      out += pattern[i++];
-    }
-  }
-  return out;
+double CurrentTimer(const ExpansionContext& context) {
+  if (context.clock) return context.clock->Timer();
+  return context.now ? context.now().seconds_since_midnight : 0.0;
 }
 
 std::string MonthNameOf(const ExpansionContext& context, const DateValue& date) {
@@ -138,21 +25,8 @@ std::string MonthNameOf(const ExpansionContext& context, const DateValue& date) 
 }
 
 std::string DayNameOf(const DateValue& date) {
-  // Weekday with Monday as day 1, then the system's name of that number.
-  const int from_monday = (WeekdayFromSunday(date) + 6) % 7 + 1;
-  UErrorCode status = U_ZERO_ERROR;
-  const icu::Locale locale = icu::Locale::getDefault();
-  std::unique_ptr<icu::Calendar> calendar(icu::Calendar::createInstance(locale, status));
-  icu::DateFormatSymbols symbols(locale, status);
-  if (U_FAILURE(status)) return {};
-  const int first = calendar->getFirstDayOfWeek(status);  // 1 Sunday ... 7 Saturday
-  int32_t count = 0;
-  const icu::UnicodeString* names = symbols.getWeekdays(count);
-  const int index = (first - 1 + from_monday - 1) % 7 + 1;
-  if (index >= count) return {};
-  std::string out;
-  names[index].toUTF8String(out);
-  return out;
+  // Kept: counted from Monday, named from the system's own first day.
+  return vb::WeekdayName(vb::Weekday(date, vb::kMonday), false, vb::kUseSystem);
 }
 
 namespace token_steps {
@@ -192,14 +66,10 @@ constexpr std::string_view kFilePatternsAfterNames[][2] = {{"{{yyyy}}", "yyyy"},
 // The current date and the current time; a time alone stands on 30 December 1899.
 struct Now {
   const ExpansionContext& context;
-  ClockReading Read() const { return context.now ? context.now() : ClockReading{}; }
-  DateValue Date() const {
-    const ClockReading r = Read();
-    return {r.year, r.month, r.day, r.hour, r.minute, r.second};
-  }
+  DateValue Date() const { return CurrentDateTime(context); }
   DateValue Time() const {
-    const ClockReading r = Read();
-    return {1899, 12, 30, r.hour, r.minute, r.second};
+    const DateValue now = CurrentDateTime(context);
+    return vb::TimeSerial(now.hour, now.minute, now.second);
   }
 };
 
@@ -216,7 +86,7 @@ DateValue RequireDate(const std::optional<DateValue>& date) {
   return *date;
 }
 
-std::string QuarterOf(const DateValue& date) { return std::to_string((date.month - 1) / 3 + 1); }
+std::string QuarterOf(const DateValue& date) { return std::to_string(vb::Quarter(date)); }
 
 void NameTokens(ExpansionPass& pass, const std::optional<DateValue>& date) {
   pass.ValueToken("{{mm_text}}", [&] { return MonthNameOf(pass.context(), RequireDate(date)); });

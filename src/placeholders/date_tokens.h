@@ -4,26 +4,29 @@
 #include <string>
 #include <string_view>
 
+#include "base/vb_date.h"
+#include "base/vb_date_text.h"
 #include "placeholders/expansion_context.h"
 
 namespace tarnwick {
 
 // A date and time as the date tokens see it.
-struct DateValue {
-  int year = 1899, month = 12, day = 30;
-  int hour = 0, minute = 0, second = 0;
-};
+using DateValue = vb::DateTime;
 
-// A date text read in the user's order of day, month and year (the option
-// `DateFormat`, e.g. "dd.mm.yyyy"; a text starting with a four-digit year is
-// read year first), with an optional time "hh:mm:ss". Nothing when the text
-// is no valid date.
-std::optional<DateValue> ParseDateText(std::string_view text, std::string_view date_format);
+// The date runtime under the names the tag and command-line code call it by:
+// a date text in the order of `DateFormat` with an optional time, and a
+// token pattern.
+inline std::optional<DateValue> ParseDateText(std::string_view text, std::string_view date_format) {
+  return vb::ParseDateTime(text, date_format);
+}
+inline std::string FormatDatePattern(const DateValue& date, std::string_view pattern) {
+  return vb::FormatDate(date, pattern);
+}
 
-// The date formatted with a token pattern: "yyyy", "dd", "hh", "ss", "ww"
-// (week of the year, Sunday first, the week of 1 January is week 1) and "mm",
-// the month, or the minute right after "hh". Other characters are literal.
-std::string FormatDatePattern(const DateValue& date, std::string_view pattern);
+// The local date and time and the seconds since midnight from the context's
+// clock; 30 December 1899, midnight, and 0 without one.
+DateValue CurrentDateTime(const ExpansionContext& context);
+double CurrentTimer(const ExpansionContext& context);
 
 // `GetMonthName`: the message table's month name (592 to 603).
 std::string MonthNameOf(const ExpansionContext& context, const DateValue& date);

@@ -6,8 +6,9 @@
 #include <string>
 #include <string_view>
 
-#include "placeholders/media_provider.h"
+#include "base/clock.h"
 #include "base/random_pool.h"
+#include "placeholders/media_provider.h"
 
 namespace tarnwick {
 
@@ -45,7 +46,8 @@ class ExpansionLog {
   virtual void WriteLogFileTool(std::string_view subject, std::string_view text) = 0;
 };
 
-// A local date and time, as the clock gives it.
+// A local date and time handed in by a function: the older way to give the
+// engine its clock, read only when `ExpansionContext::clock` is absent.
 struct ClockReading {
   int year = 1899, month = 12, day = 30;
   int hour = 0, minute = 0, second = 0;
@@ -59,7 +61,8 @@ struct ExpansionContext {
   // A text of the message table by id (month names 592-603, 1012 "Yes",
   // 1013 "No"), in the interface's language; absent gives empty texts.
   std::function<std::string(int)> message_text;
-  std::function<ClockReading()> now;  // the injected clock
+  const Clock* clock = nullptr;       // the injected clock: now and the seed
+  std::function<ClockReading()> now;  // used when `clock` is absent
   ExpansionLog* log = nullptr;        // may be absent
   const MediaInfoProvider* media = &MediaInfoProvider::None();
 

@@ -3,7 +3,9 @@
 #include <cstdlib>
 
 #include "base/vb_error.h"
-#include "placeholders/number_text.h"
+#include "base/vb_format.h"
+#include "base/vb_number.h"
+#include "placeholders/date_tokens.h"
 #include "placeholders/numerals.h"
 #include "placeholders/text_ops.h"
 #include "placeholders/token_steps.h"
@@ -45,21 +47,20 @@ void Counters(ExpansionPass& pass) {
   const ExpansionContext& context = pass.context();
   const std::string& sep = context.numbering.limiter;
   pass.ValueToken("{{count}}", [&] {
-    return FormatWithZeroMask(static_cast<std::int64_t>(CounterValue(context)), Mask(context)) +
-           sep;
+    return vb::Format(static_cast<std::int64_t>(CounterValue(context)), Mask(context)) + sep;
   });
   pass.ValueToken("{{count2hexadecimal}}", [&] {
-    return FormatTextWithZeroMask(ToHexadecimal(CounterValue(context)), Mask(context)) + sep;
+    return vb::FormatText(ToHexadecimal(CounterValue(context)), Mask(context)) + sep;
   });
   pass.ValueToken("{{count2octal}}", [&] {
-    return FormatTextWithZeroMask(ToOctal(CounterValue(context)), Mask(context)) + sep;
+    return vb::FormatText(ToOctal(CounterValue(context)), Mask(context)) + sep;
   });
   pass.ValueToken("{{count2binary}}", [&] {
-    return FormatTextWithZeroMask(ToBinary(CounterValue(context)), Mask(context)) + sep;
+    return vb::FormatText(ToBinary(CounterValue(context)), Mask(context)) + sep;
   });
   pass.ValueToken("{{countdynamic}}", [&] {
-    return FormatWithZeroMask(static_cast<std::int64_t>(CounterValue(context)),
-                              DynamicZeroMask(context.numbering.selected_count)) +
+    return vb::Format(static_cast<std::int64_t>(CounterValue(context)),
+                      DynamicZeroMask(context.numbering.selected_count)) +
            sep;
   });
   pass.ValueToken("{{count2roman}}", [&] {
@@ -85,11 +86,11 @@ void RandomPoolStep(ExpansionPass& pass) {
   pass.Run([&] {
     RandomPool& pool = context.state->random_pool;
     pool.Clear();
-    const double lower = static_cast<double>(FieldValue(context.numbering.start_number));
+    const double lower = vb::Val(context.numbering.start_number);
     const double upper = (static_cast<double>(context.numbering.selected_count) + lower - 1) *
-                         static_cast<double>(FieldValue(context.numbering.step));
-    const double seed = context.now ? context.now().seconds_since_midnight : 0.0;
-    pool.Build(std::llrint(lower), std::llrint(upper), static_cast<std::uint64_t>(seed * 1000));
+                         vb::Val(context.numbering.step);
+    const double seed = CurrentTimer(context);
+    pool.Build(vb::CLng(lower), vb::CLng(upper), static_cast<std::uint64_t>(seed * 1000));
   });
 }
 
@@ -97,11 +98,11 @@ void RandomNumbers(ExpansionPass& pass) {
   const ExpansionContext& context = pass.context();
   const RandomPool& pool = context.state->random_pool;
   pass.ValueToken("{{random_number_byfilecount}}", [&] {
-    return FormatWithZeroMask(pool.Next() - FieldValue(context.numbering.start_number),
-                              DynamicZeroMask(context.numbering.selected_count));
+    return vb::Format(pool.Next() - vb::Val(context.numbering.start_number),
+                      DynamicZeroMask(context.numbering.selected_count));
   });
   pass.ValueToken("{{random_number_bynumbering}}", [&] {
-    return FormatWithZeroMask(pool.Next(), Mask(context)) + context.numbering.limiter;
+    return vb::Format(pool.Next(), Mask(context)) + context.numbering.limiter;
   });
 }
 

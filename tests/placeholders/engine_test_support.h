@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/clock.h"
 #include "persist/option_store.h"
 #include "placeholders/engine.h"
 #include "support/temp_dir.h"
@@ -27,7 +28,7 @@ class EngineFixture {
     context.options = &options_;
     context.log = &log;
     context.state = &state;
-    context.now = [this] { return clock; };
+    context.clock = &clock;
     context.message_text = [](int id) -> std::string {
       static const char* kMonths[] = {"January",   "February", "March",    "April",
                                       "May",       "June",     "July",     "August",
@@ -40,7 +41,6 @@ class EngineFixture {
     context.row = {dir_.str(), "file.txt", "Text document", "Holiday"};
     context.current_count = 1;
     context.numbering = {"", "1", "1", 1};
-    clock = {2004, 3, 8, 10, 15, 5, 36905.0};
   }
 
   std::string Expand(std::string_view expression, std::string_view date = "08.03.2004 10:15:05") {
@@ -52,7 +52,7 @@ class EngineFixture {
   }
   const TempDir& dir() const { return dir_; }
 
-  ClockReading clock;
+  FixedClock clock{{2004, 3, 8, 10, 15, 5}};
   RecordingLog log;
   PlaceholderState state;
   ExpansionContext context;
