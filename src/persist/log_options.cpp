@@ -34,6 +34,7 @@ bool OptionIsZero(const OptionStore& options, std::string_view key,
 }
 
 std::string AbsolutePath(std::string_view path) {
+  if (path.starts_with('/')) return AbsolutePathName(path, "/");
   std::error_code error;
   const std::filesystem::path working = std::filesystem::current_path(error);
   return AbsolutePathName(path, error ? std::string("/") : working.string());
