@@ -3,6 +3,7 @@
 #include <string>
 
 #include "cli_command.h"
+#include "shell/interaction_defaults.h"
 
 namespace tarnwick::cli {
 namespace {
@@ -54,6 +55,8 @@ void PrintProgramHelp(std::ostream& out) {
       << "  -h, --help  show this help; after a command, the help of that command\n"
       << "  --version   show the program version and build\n\n"
       << kExitCodes << "\n"
+      << "Questions and their default answers (commands that run jobs):\n"
+      << DefaultAnswersHelp() << "\n"
       << "Run '" << kProgramName << " COMMAND --help' for the details of one command.\n";
 }
 

@@ -8,11 +8,13 @@ namespace tarnwick::cli {
 
 extern const Command kOptionsCommand;
 extern const Command kExpandCommand;
+extern const Command kCatalogueCommand;
 
 std::span<const Command> AllCommands() {
   static const std::array kCommands = {
       kOptionsCommand,
       kExpandCommand,
+      kCatalogueCommand,
   };
   return kCommands;
 }

@@ -33,7 +33,8 @@ TEST(CliUsageTest, HelpExplainsEveryCommandAndTheExitCodes) {
   EXPECT_EQ(help.err, "");
   for (const char* text :
        {"options get SECTION KEY [DEFAULT]", "options set SECTION KEY VALUE",
-        "options list [SECTION]", "options reset", "--version", "Exit codes:", "  0  ", "  2  "}) {
+        "options list [SECTION]", "options reset", "expand EXPRESSION", "catalogue SEARCH",
+        "--version", "Exit codes:", "  0  ", "  2  ", "default answers", "--yes", "Ctrl-C"}) {
     EXPECT_THAT(help.out, HasSubstr(text));
   }
   EXPECT_EQ(cli.Run({"-h"}).out, help.out);
