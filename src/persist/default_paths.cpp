@@ -4,10 +4,12 @@
 #include "persist/log_date_text.h"
 #include "persist/log_file.h"
 #include "persist/log_options.h"
+#include "persist/log_undo_env.h"
 #include "persist/log_undo_state.h"
 #include "persist/option_store.h"
 #include "platform/files.h"
 #include "platform/user_folders.h"
+#include "shell/message_table.h"
 
 namespace tarnwick {
 namespace {
@@ -42,13 +44,15 @@ void FixStaleOptions(OptionStore& options, const LogUndoState& state) {
   }
 }
 
-void MoveFavorites(const ProgramFolders& folders, const LogUndoState& state, RunLog& log) {
+void MoveFavorites(const ProgramFolders& folders, const LogUndoEnv& env, RunLog& log) {
+  const LogUndoState& state = env.state;
   if (state.ProgramFolder.empty()) return;
   const std::string old_file = JoinPath(state.ProgramFolder, kFavoritesFile);
   const std::string new_file = JoinPath(folders.favorites, kFavoritesFile);
   if (!FileExists(old_file) || FileExists(new_file)) return;
-  log.WriteLogFileTool("CreateDefaultPaths",
-                       "Copy favorites to new location ... [" + log.NowText() + "]");
+  const MessageTable& texts = env.messages;
+  log.WriteLogFileTool(texts.Text("log.subject_create_default_paths"),
+                       std::string(texts.Text("log.copy_favorites")) + log.NowText() + "]");
   CopyFile(old_file, new_file, false);
 }
 
@@ -69,15 +73,16 @@ std::string UserDataBaseFolder() { return DataFolder().parent_path().parent_path
 
 std::string UserDataFallbackFolder() { return HomeFolder().string(); }
 
-ProgramFolders CreateDefaultPaths(OptionStore& options, LogUndoState& state, RunLog& log,
-                                  std::string_view base_folder, std::string_view fallback_folder) {
+ProgramFolders CreateDefaultPaths(const LogUndoEnv& env, RunLog& log, std::string_view base_folder,
+                                  std::string_view fallback_folder) {
+  LogUndoState& state = env.state;
   const std::string base = ChooseBase(base_folder, fallback_folder);
   const ProgramFolders folders = ProgramFoldersUnder(AbsolutePath(base));
   MakeFolders(folders);
   state.DefaultLogFolder = folders.log;
   state.DefaultUndoFolder = folders.undo;
-  FixStaleOptions(options, state);
-  MoveFavorites(folders, state, log);
+  FixStaleOptions(env.options, state);
+  MoveFavorites(folders, env, log);
   return folders;
 }
 

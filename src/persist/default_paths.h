@@ -6,8 +6,7 @@
 namespace tarnwick {
 
 class RunLog;
-class OptionStore;
-struct LogUndoState;
+struct LogUndoEnv;
 
 // The program's folders below the user's data folder (the base folder):
 //   base/Oakhollow                              maker
@@ -38,7 +37,7 @@ std::string UserDataFallbackFolder();
 //   1. Takes `base_folder`; when it does not exist it is made with its
 //      parents, and when that fails `fallback_folder` is used instead.
 //   2. Makes each missing folder of ProgramFolders, in the order above.
-//   3. Sets DefaultLogFolder and DefaultUndoFolder of `state`.
+//   3. Sets DefaultLogFolder and DefaultUndoFolder of the state.
 //   4. An `UndoFilePath` with an extension (an older version named a file
 //      there) becomes DefaultUndoFolder.
 //   5. A `LogFilePath` whose folder does not exist becomes DefaultLogFolder
@@ -49,7 +48,7 @@ std::string UserDataFallbackFolder();
 //      favorites folder unless one stands there already, with a log line.
 // Nothing is shown to the user; a folder that cannot be made is left out.
 // Returns the folders used.
-ProgramFolders CreateDefaultPaths(OptionStore& options, LogUndoState& state, RunLog& log,
-                                  std::string_view base_folder, std::string_view fallback_folder);
+ProgramFolders CreateDefaultPaths(const LogUndoEnv& env, RunLog& log, std::string_view base_folder,
+                                  std::string_view fallback_folder);
 
 }  // namespace tarnwick

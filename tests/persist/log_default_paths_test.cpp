@@ -13,7 +13,7 @@ class DefaultPathsTest : public LogUndoTest {
  protected:
   std::string Base() const { return (dir_.path() / "data").string(); }
   ProgramFolders Create() {
-    return CreateDefaultPaths(options_, state_, log_, Base(), (dir_.path() / "home").string());
+    return CreateDefaultPaths(env_, log_, Base(), (dir_.path() / "home").string());
   }
 };
 
@@ -41,7 +41,7 @@ TEST_F(DefaultPathsTest, AMissingBaseIsMadeAndTheFallbackUsedWhenItCannotBe) {
   const std::string file = dir_.WriteFile("plain").string();
   std::filesystem::create_directories(dir_.path() / "home");
   const ProgramFolders folders =
-      CreateDefaultPaths(options_, state_, log_, file + "/data", (dir_.path() / "home").string());
+      CreateDefaultPaths(env_, log_, file + "/data", (dir_.path() / "home").string());
   EXPECT_EQ(folders.maker, (dir_.path() / "home" / "Oakhollow").string());
   EXPECT_TRUE(std::filesystem::is_directory(folders.favorites));
 }
