@@ -15,17 +15,17 @@ namespace tarnwick {
 // and a byte the code page leaves undefined stands for the C1 control of the
 // same value, as on Windows.
 //
-// Nothing is lost on the way to bytes. A character the code page lacks is
-// written as its own UTF-8 bytes. A reader tells the two apart like this: a
-// well-formed multi-byte UTF-8 sequence is taken as UTF-8 only when its
-// character has no byte in the code page; every other byte is a code-page
-// byte. A writer never writes a character the code page has as UTF-8, so such
-// a sequence cannot be the writer's own UTF-8 for a code-page character.
-// The one text that does not come back is a run of code-page characters
-// whose bytes happen to spell such a sequence: Encode gives both the same
-// bytes, so no reader could tell them apart. In Windows-1252 that is a
-// capital from "Ä" to "ß" followed by one of "€" to "¿" ("É’" spells
-// U+0252); in 850 also pairs such as "Ã©". Names rarely hold these pairs.
+// A character the code page lacks is not dropped: it is written as its own
+// UTF-8 bytes. A reader tells the two apart like this: a well-formed
+// multi-byte UTF-8 sequence is taken as UTF-8 only when its character has no
+// byte in the code page; every other byte is a code-page byte. A writer never
+// writes a character the code page has as UTF-8, so a sequence of such a
+// character is always code-page bytes. The rule fails only for a run of
+// code-page characters whose bytes happen to spell the UTF-8 of a character
+// outside the code page: Encode gives both texts the same bytes, and the
+// reader takes the foreign character. In Windows-1252 that needs a capital
+// from "Ä" to "ß" followed by one of "€" to "¿" ("É’" spells U+0252); in 850
+// also pairs such as "Ã©". Names rarely hold these pairs.
 class SingleByteCodePage {
  public:
   static const SingleByteCodePage& Windows1252();

@@ -38,7 +38,8 @@ std::int64_t InStrRev(std::string_view text, std::string_view find, std::int64_t
   if (start > length) return 0;
   if (find.empty()) return start;
   // Only matches that end at or before character `start` count.
-  const std::string_view head = text.substr(0, utf8::Advance(text, 0, start));
+  const std::string_view head =
+      text.substr(0, utf8::Advance(text, 0, static_cast<std::size_t>(start)));
   const Finder finder(find, compare);
   std::size_t last = std::string_view::npos;
   for (Finder::Hit hit = finder.Next(head, 0); hit.found();
