@@ -9,7 +9,7 @@ namespace {
 
 // One pass over an expression that holds "{{".
 std::string RunPass(const ExpansionContext& context, const ExpressionIndex& index,
-                    std::string_view file_date, std::string_view file_path) {
+                    std::string_view file_date, std::string_view file_path, bool* faulted) {
   using namespace token_steps;
   ExpansionPass pass(context, index, file_date, file_path);
   Literals(pass);
@@ -31,14 +31,28 @@ std::string RunPass(const ExpansionContext& context, const ExpressionIndex& inde
   LateText(pass);
   RandomPoolStep(pass);
   RandomNumbers(pass);
+  *faulted = pass.faulted();
   return std::move(pass.text());
 }
 
 std::string ConvertOnce(const ExpansionContext& context, const ExpressionIndex& index,
-                        std::string_view file_date, std::string_view file_path) {
+                        std::string_view file_date, std::string_view file_path, bool* faulted) {
   if (index.expression().empty()) return {};
   if (index.opening_count() == 0) return std::string(index.expression());
-  return RunPass(context, index, file_date, file_path);
+  return RunPass(context, index, file_date, file_path, faulted);
+}
+
+// Whether a later pass of the same call can come out differently from the
+// first: the letter counters read what the pass before them left, and the
+// clock, unique-id and random tokens take fresh values in every pass. Without
+// any of them every pass reads the same options, files and state and writes
+// the same attributes, so the first pass's result is the last one's, and the
+// repetition is skipped. A pass that faulted is repeated all the same, so the
+// log keeps its line per pass.
+bool LaterPassesCanDiffer(const ExpressionIndex& index) {
+  return index.Has("{{count2char}}") || index.Has("{{count2alphanumeric}}") ||
+         index.HasPrefix("{{cdate") || index.HasPrefix("{{ctime") || index.Has("{{uniqueid}}") ||
+         index.HasPrefix("{{random_number");
 }
 
 }  // namespace
@@ -46,7 +60,8 @@ std::string ConvertOnce(const ExpansionContext& context, const ExpressionIndex& 
 std::string ConvertExpression(const ExpansionContext& context, std::string_view expression,
                               std::string_view file_date, std::string_view file_path) {
   const ExpressionIndex index(expression);
-  return ConvertOnce(context, index, file_date, file_path);
+  bool faulted = false;
+  return ConvertOnce(context, index, file_date, file_path, &faulted);
 }
 
 std::string ConvertExpressionMultiple(const ExpansionContext& context, std::string_view expression,
@@ -57,13 +72,14 @@ std::string ConvertExpressionMultiple(const ExpansionContext& context, std::stri
   try {
     const ExpressionIndex index(expression);
     // One pass per "{{" and one more, each from the unchanged expression; the
-    // last pass decides. The passes are never merged: the letter counters need
-    // the second pass, and every pass takes fresh clock, id and random values
-    // and runs its side effects again.
+    // last pass decides.
     const int passes = index.opening_count() + 1;
+    const bool repeat = LaterPassesCanDiffer(index);
     std::string result;
     for (int i = 0; i < passes; ++i) {
-      result = ConvertOnce(context, index, file_date, file_path);
+      bool faulted = false;
+      result = ConvertOnce(context, index, file_date, file_path, &faulted);
+      if (!repeat && !faulted) break;
     }
     return result;
   } catch (...) {

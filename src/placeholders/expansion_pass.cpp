@@ -63,6 +63,7 @@ std::string ExpansionPass::Option(std::string_view name, std::string_view defaul
 }
 
 void ExpansionPass::ReportCurrentFault() {
+  faulted_ = true;
   int number = 0;
   std::string description;
   try {

@@ -82,6 +82,9 @@ class ExpansionPass {
   // Option of section "Options", read at the moment of use.
   std::string Option(std::string_view name, std::string_view default_value) const;
 
+  // Whether a statement of this pass faulted (and wrote its log line).
+  bool faulted() const { return faulted_; }
+
  private:
   void ReportCurrentFault();
 
@@ -91,6 +94,7 @@ class ExpansionPass {
   std::string_view file_path_;
   std::string text_;
   mutable std::string row_path_;
+  bool faulted_ = false;
 };
 
 }  // namespace tarnwick
