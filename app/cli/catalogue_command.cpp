@@ -19,7 +19,7 @@ constexpr std::string_view kCommand = "catalogue";
 struct CatalogueArgs {
   std::optional<std::string> search;
   std::optional<CatalogueLanguage> language;
-  bool tsv = false;
+  bool aligned = false;
 };
 
 std::optional<CatalogueLanguage> LanguageNamed(std::string_view name) {
@@ -31,8 +31,14 @@ std::optional<CatalogueLanguage> LanguageNamed(std::string_view name) {
 std::optional<std::string> ParseArgs(std::span<const std::string> args, CatalogueArgs& out) {
   for (std::size_t i = 0; i < args.size(); ++i) {
     const std::string& arg = args[i];
-    if (arg == "--tsv") {
-      out.tsv = true;
+    if (arg == "--aligned") {
+      out.aligned = true;
+      continue;
+    }
+    if (arg == "--search") {
+      if (i + 1 >= args.size()) return "--search needs a text";
+      if (out.search) return "only one --search is expected";
+      out.search = args[++i];
       continue;
     }
     if (arg == "--language") {
@@ -42,8 +48,7 @@ std::optional<std::string> ParseArgs(std::span<const std::string> args, Catalogu
       continue;
     }
     if (arg.starts_with("--")) return "unknown option '" + arg + "'";
-    if (out.search) return "only one SEARCH text is expected";
-    out.search = arg;
+    return "unexpected argument '" + arg + "' (search with --search TEXT)";
   }
   return std::nullopt;
 }
@@ -85,7 +90,7 @@ int RunCatalogue(std::span<const std::string> args, CliIo& io) {
     for (std::size_t i = 0; i < rows.size(); ++i) shown.push_back(i);
   }
   if (shown.empty()) return Failure(io, "no placeholder matches '" + a.search.value_or("") + "'");
-  if (!a.tsv) {
+  if (a.aligned) {
     PrintAligned(rows, shown, io.out);
     return kExitOk;
   }
@@ -95,24 +100,23 @@ int RunCatalogue(std::span<const std::string> args, CliIo& io) {
   return kExitOk;
 }
 
-constexpr std::array<CommandForm, 2> kForms = {{
-    {"catalogue [--language en|de] [--tsv]",
-     "list every placeholder with a sample and its meaning"},
-    {"catalogue SEARCH [--language en|de] [--tsv]",
-     "only the placeholders the picker's search finds for SEARCH"},
+constexpr std::array<CommandForm, 1> kForms = {{
+    {"catalogue [--search TEXT] [--language en|de] [--aligned]",
+     "list the placeholders (name, sample, meaning), or those the picker's search finds"},
 }};
 
 constexpr std::string_view kDetails =
-    "SEARCH works as in the placeholder picker: a placeholder matches when its\n"
-    "name (without the braces) starts with SEARCH; when none does, or SEARCH\n"
-    "starts with \"*\", the text is looked for anywhere in the name, the sample\n"
-    "and the description. Case does not matter.\n"
+    "Prints one row per placeholder: name, sample and meaning, separated by tabs.\n"
     "\n"
     "Options:\n"
-    "  --language en|de  the language of samples and descriptions; by default\n"
-    "                    the system's (LC_ALL, LC_MESSAGES, LANG)\n"
-    "  --tsv             one row per line: name, sample, description, separated\n"
-    "                    by tabs\n"
+    "  --search TEXT     only the rows the placeholder picker's search finds: a\n"
+    "                    row matches when its name (without the braces) starts\n"
+    "                    with TEXT; when none does, or TEXT starts with \"*\", the\n"
+    "                    text is looked for anywhere in the name, the sample and\n"
+    "                    the meaning. Case does not matter.\n"
+    "  --language en|de  the language of samples and meanings; by default the\n"
+    "                    system's (LC_ALL, LC_MESSAGES, LANG)\n"
+    "  --aligned         columns padded with blanks for reading, not tabs\n"
     "\n"
     "Samples of the current-date rows show today. Exit status 1 when nothing\n"
     "matches.\n";

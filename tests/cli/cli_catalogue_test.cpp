@@ -26,7 +26,7 @@ std::vector<std::string> Lines(const std::string& text) {
 
 TEST(CliCatalogueTest, ListsEveryRowWithSampleAndDescription) {
   CliRunner cli;
-  const CliResult result = cli.Run({"catalogue", "--tsv", "--language", "en"});
+  const CliResult result = cli.Run({"catalogue", "--language", "en"});
   ASSERT_EQ(result.exit_code, 0) << result.err;
   const std::vector<std::string> lines = Lines(result.out);
   EXPECT_GT(lines.size(), 200u);
@@ -40,16 +40,17 @@ TEST(CliCatalogueTest, ListsEveryRowWithSampleAndDescription) {
 
 TEST(CliCatalogueTest, SearchNarrowsLikeThePicker) {
   CliRunner cli;
-  const CliResult prefix = cli.Run({"catalogue", "random_number", "--tsv", "--language", "en"});
+  const CliResult prefix = cli.Run({"catalogue", "--search", "random_number", "--language", "en"});
   ASSERT_EQ(prefix.exit_code, 0) << prefix.err;
   for (const std::string& line : Lines(prefix.out)) {
     EXPECT_THAT(line, StartsWith("{{random_number")) << line;
   }
-  const CliResult anywhere = cli.Run({"catalogue", "*selection count", "--language", "en"});
+  const CliResult anywhere =
+      cli.Run({"catalogue", "--search", "*selection count", "--aligned", "--language", "en"});
   ASSERT_EQ(anywhere.exit_code, 0) << anywhere.err;
   EXPECT_THAT(anywhere.out, HasSubstr("{{random_number_byFilecount}}"));
 
-  const CliResult none = cli.Run({"catalogue", "*no such placeholder anywhere"});
+  const CliResult none = cli.Run({"catalogue", "--search", "*no such placeholder anywhere"});
   EXPECT_EQ(none.exit_code, 1);
   EXPECT_THAT(none.err, HasSubstr("no placeholder matches"));
 }
@@ -57,18 +58,19 @@ TEST(CliCatalogueTest, SearchNarrowsLikeThePicker) {
 TEST(CliCatalogueTest, LanguageFollowsTheSystemUnlessGiven) {
   CliRunner cli;
   cli.SetEnv("LC_ALL", "de_DE.UTF-8");
-  const std::string german = cli.Run({"catalogue", "--tsv"}).out;
-  const std::string english = cli.Run({"catalogue", "--tsv", "--language", "en"}).out;
+  const std::string german = cli.Run({"catalogue"}).out;
+  const std::string english = cli.Run({"catalogue", "--language", "en"}).out;
   EXPECT_NE(german, english);
   EXPECT_EQ(Lines(german).size(), Lines(english).size());
-  EXPECT_EQ(cli.Run({"catalogue", "--tsv", "--language", "de"}).out, german);
+  EXPECT_EQ(cli.Run({"catalogue", "--language", "de"}).out, german);
 }
 
 TEST(CliCatalogueTest, WrongCallsAreUsageErrors) {
   CliRunner cli;
   for (const std::vector<std::string>& args : {std::vector<std::string>{"catalogue", "--language"},
                                                {"catalogue", "--language", "fr"},
-                                               {"catalogue", "a", "b"},
+                                               {"catalogue", "random"},
+                                               {"catalogue", "--search"},
                                                {"catalogue", "--wide"}}) {
     const CliResult result = cli.Run(args);
     EXPECT_EQ(result.exit_code, 2) << args.back();

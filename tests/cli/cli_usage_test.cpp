@@ -33,7 +33,7 @@ TEST(CliUsageTest, HelpExplainsEveryCommandAndTheExitCodes) {
   EXPECT_EQ(help.err, "");
   for (const char* text :
        {"options get SECTION KEY [DEFAULT]", "options set SECTION KEY VALUE",
-        "options list [SECTION]", "options reset", "expand EXPRESSION", "catalogue SEARCH",
+        "options list [SECTION]", "options reset", "expand EXPRESSION", "catalogue [--search TEXT]",
         "--version", "Exit codes:", "  0  ", "  2  ", "default answers", "--yes", "Ctrl-C"}) {
     EXPECT_THAT(help.out, HasSubstr(text));
   }
