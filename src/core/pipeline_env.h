@@ -19,15 +19,15 @@ class OptionStore;
 // the call. Nothing here is copied: the controls and the options are read at
 // each use, so a change shows at the next file.
 struct PipelineEnv {
-  AppState& app;                    // counter, cancel flag, placeholder state
-  const RenameSettings& settings;   // the renaming controls
-  const FileList& list;             // the rows `ProcessFile` is given by index
-  OptionStore& options;             // read at each use; the dialogues store here
-  Interaction& interaction;         // every question and box
-  const MessageTable& messages;     // the texts in the user's language
-  const Clock& clock;               // the clock the date tokens read
+  AppState& app;                   // counter, cancel flag, placeholder state
+  const RenameSettings& settings;  // the renaming controls
+  const FileList& list;            // the rows `ProcessFile` is given by index
+  OptionStore& options;            // read at each use; the dialogues store here
+  Interaction& interaction;        // every question and box
+  const MessageTable& messages;    // the texts in the user's language
+  const Clock& clock;              // the clock the date tokens read
   const MediaInfoProvider& media = MediaInfoProvider::None();  // tags, EXIF, lengths
-  ExpansionLog* log = nullptr;      // `WriteLogFileTool`; absent: nothing is logged
+  ExpansionLog* log = nullptr;  // `WriteLogFileTool`; absent: nothing is logged
   // The list's selected rows, counted once by the caller (the random and
   // dynamic number tokens read it); counting per file would cost a walk of the
   // whole list for every file.
