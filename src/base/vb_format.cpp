@@ -99,6 +99,23 @@ std::int64_t ScaleForExponent(Decimal& value, const NumberMask& mask) {
   return exponent;
 }
 
+// For each digit place of the whole part and of the decimals: whether it is
+// a "0" place.
+struct ZeroPlaces {
+  std::vector<bool> whole, decimals;
+};
+
+ZeroPlaces ZeroPlacesOf(const NumberMask& mask) {
+  ZeroPlaces out;
+  bool after_point = false;
+  for (const MaskItem& item : mask.items) {
+    if (item.kind == MaskItemKind::kPoint) after_point = true;
+    if (!IsPlace(item)) continue;
+    (after_point ? out.decimals : out.whole).push_back(item.kind == MaskItemKind::kZero);
+  }
+  return out;
+}
+
 class SectionWriter {
  public:
   SectionWriter(Decimal value, const NumberMask& mask) : mask_(mask) {
@@ -108,17 +125,11 @@ class SectionWriter {
     } else {
       detail::RoundAtDigit(value, value.point + mask.decimal_places);
     }
-    std::vector<bool> whole_zeros, decimal_zeros;
-    bool after_point = false;
-    for (const MaskItem& item : mask.items) {
-      if (item.kind == MaskItemKind::kPoint) after_point = true;
-      if (IsPlace(item))
-        (after_point ? decimal_zeros : whole_zeros).push_back(item.kind == MaskItemKind::kZero);
-    }
-    const auto cells = WholeCells(detail::IntegerDigits(value), whole_zeros, mask.grouping);
-    whole_ = WholePlaces(cells, whole_zeros.size());
-    if (whole_zeros.empty()) unplaced_whole_ = JoinCells(cells);
-    decimals_ = DecimalPlaces(detail::FractionDigits(value, mask.decimal_places), decimal_zeros);
+    const ZeroPlaces zeros = ZeroPlacesOf(mask);
+    const auto cells = WholeCells(detail::IntegerDigits(value), zeros.whole, mask.grouping);
+    whole_ = WholePlaces(cells, zeros.whole.size());
+    if (zeros.whole.empty()) unplaced_whole_ = JoinCells(cells);
+    decimals_ = DecimalPlaces(detail::FractionDigits(value, mask.decimal_places), zeros.decimals);
   }
 
   std::string Write() {
