@@ -9,12 +9,14 @@ namespace tarnwick::cli {
 extern const Command kOptionsCommand;
 extern const Command kExpandCommand;
 extern const Command kCatalogueCommand;
+extern const Command kListCommand;
 
 std::span<const Command> AllCommands() {
   static const std::array kCommands = {
       kOptionsCommand,
       kExpandCommand,
       kCatalogueCommand,
+      kListCommand,
   };
   return kCommands;
 }
