@@ -167,14 +167,36 @@ class SectionWriter {
   std::string unplaced_whole_;
 };
 
+// A mask of "0" alone, the counters' mask: the digits padded to its width.
+bool IsZeroMask(std::string_view mask) {
+  return !mask.empty() && mask.find_first_not_of('0') == std::string_view::npos;
+}
+
+std::string PaddedInteger(std::int64_t value, std::size_t width) {
+  const std::uint64_t magnitude =
+      value < 0 ? ~static_cast<std::uint64_t>(value) + 1 : static_cast<std::uint64_t>(value);
+  std::string digits = std::to_string(magnitude);
+  if (digits.size() < width) digits.insert(0, width - digits.size(), '0');
+  return value < 0 ? "-" + digits : digits;
+}
+
+// The masks known by name all begin with a letter, a number mask seldom does.
+bool MayBeNamed(std::string_view mask) {
+  const char c = mask.empty() ? '\0' : static_cast<char>(mask[0] | 0x20);
+  return c >= 'a' && c <= 'z';
+}
+
 template <typename General>
 std::string FormatDecimal(const Decimal& value, std::string_view mask, General general) {
-  if (mask.empty() || EqualsText(mask, "General Number")) return general();
-  for (const NamedMask& named : kNamedMasks) {
-    if (EqualsText(mask, named.name)) return FormatDecimal(value, named.mask, general);
-  }
-  for (const NamedWords& named : kNamedWords) {
-    if (EqualsText(mask, named.name)) return std::string(value.IsZero() ? named.no : named.yes);
+  if (mask.empty()) return general();
+  if (MayBeNamed(mask)) {
+    if (EqualsText(mask, "General Number")) return general();
+    for (const NamedMask& named : kNamedMasks) {
+      if (EqualsText(mask, named.name)) return FormatDecimal(value, named.mask, general);
+    }
+    for (const NamedWords& named : kNamedWords) {
+      if (EqualsText(mask, named.name)) return std::string(value.IsZero() ? named.no : named.yes);
+    }
   }
   const std::vector<std::string_view> sections = detail::SplitSections(mask);
   std::string_view section = sections[0];
@@ -201,6 +223,7 @@ std::string Format(double value, std::string_view mask) {
 }
 
 std::string Format(std::int64_t value, std::string_view mask) {
+  if (IsZeroMask(mask)) return PaddedInteger(value, mask.size());
   return FormatDecimal(detail::DecimalOf(value), mask, [value] { return CStr(value); });
 }
 
