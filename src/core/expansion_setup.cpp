@@ -3,7 +3,6 @@
 
 #include <utility>
 
-#include "base/clock.h"
 #include "base/path_text.h"
 #include "core/rename_settings.h"
 #include "filelist/file_list.h"
@@ -14,12 +13,6 @@
 
 namespace tarnwick {
 namespace {
-
-ClockReading ReadClock(const Clock& clock) {
-  const vb::DateTime now = clock.Now();
-  return ClockReading{now.year,   now.month,  now.day,      now.hour,
-                      now.minute, now.second, clock.Timer()};
-}
 
 // Lends the main window's placeholder state to one expansion: moved in at
 // construction and back when it ends, also when it ends by an exception.
@@ -49,8 +42,7 @@ ExpansionContext MakeExpansionContext(const PipelineEnv& env, std::size_t row,
   context.options = &env.options;
   const MessageTable* messages = &env.messages;
   context.message_text = [messages](int id) { return std::string(messages->Text(id)); };
-  const Clock* clock = &env.clock;
-  context.now = [clock] { return ReadClock(*clock); };
+  context.clock = &env.clock;
   context.log = env.log;
   context.media = &env.media;
   context.state = &state;
