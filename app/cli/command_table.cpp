@@ -10,6 +10,7 @@ extern const Command kOptionsCommand;
 extern const Command kExpandCommand;
 extern const Command kCatalogueCommand;
 extern const Command kListCommand;
+extern const Command kSettingsCommand;
 
 std::span<const Command> AllCommands() {
   static const std::array kCommands = {
@@ -17,6 +18,7 @@ std::span<const Command> AllCommands() {
       kExpandCommand,
       kCatalogueCommand,
       kListCommand,
+      kSettingsCommand,
   };
   return kCommands;
 }

@@ -29,6 +29,7 @@ inline constexpr std::string_view kXmlReadConfigurationText =
 //   - a new section: CR LF + tab before it and CR LF after it, in the root;
 //   - the first item of a section: CR LF + tab + tab before it, later items
 //     tab + tab; each item is followed by CR LF + tab, in the section.
+//   Kept: an item after the first thus stands after three tabs.
 // A file that is read keeps its own layout: whitespace text nodes are kept
 // and line ends are not normalised, so a value written again changes only the
 // text of its attribute and nothing else of the file.

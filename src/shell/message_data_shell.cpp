@@ -48,6 +48,8 @@ constexpr MessageEntry kEntries[] = {
     {0, "startup.log.batch_not_completed",
      "Could not complete the undo batch of an interrupted run '",
      "Undo-Batch eines unterbrochenen Laufs konnte nicht vervollständigt werden '"},
+    {0, "batch.log.question_answered", "Question answered in unattended run",
+     "Frage in unbeaufsichtigtem Lauf beantwortet"},
     // The program without a window.
     {0, "startup.no_desktop_window",
      "The desktop window of Tarnwick is not built yet. Start an unattended run with: tarnwick "

@@ -9,7 +9,8 @@ CommandLine ParseCommandLine(std::string_view text, std::string_view working_fol
   CommandLine line;
   if (text.empty()) return line;
   line.empty = false;
-  const std::string without_switch = vb::Trim(vb::Replace(text, "-d", "", 1, -1, vb::Compare::kText));
+  const std::string without_switch =
+      vb::Trim(vb::Replace(text, "-d", "", 1, -1, vb::Compare::kText));
   if (EqualsText(vb::Trim(ExtensionName(without_switch)), "twr")) {
     line.settings_file = AbsolutePathName(without_switch, working_folder);
   } else {

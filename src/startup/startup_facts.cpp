@@ -73,7 +73,8 @@ StartupInput MachineStartupInput(std::string command_line) {
 }
 
 void CheckDateFormat(OptionStore& options, std::string_view system_short_date) {
-  const std::string format = vb::LCase(options.GetOption("DateFormat", "Options", system_short_date));
+  const std::string format =
+      vb::LCase(options.GetOption("DateFormat", "Options", system_short_date));
   for (const std::string_view known : {"dd.mm.yyyy", "yyyy.mm.dd", "mm.dd.yyyy"}) {
     if (format == known) return;
   }
