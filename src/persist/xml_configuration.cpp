@@ -61,6 +61,25 @@ bool HasSingleRoot(const pugi::xml_document& doc) {
   return elements == 1;
 }
 
+// Text before the first or after the last markup; the parser drops it.
+bool HasTextOutsideMarkup(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(" \t\r\n");
+  const std::size_t last = text.find_last_not_of(" \t\r\n");
+  if (first == std::string_view::npos) return false;
+  return text[first] != '<' || text[last] != '>';
+}
+
+// The parser drops the blanks between the nodes of the document itself;
+// they are put back as a new file has them, so a file read and saved again
+// is the same to the byte.
+void RestoreTopLevelLayout(pugi::xml_document& doc) {
+  for (pugi::xml_node node = doc.first_child(); node;) {
+    const pugi::xml_node next = node.next_sibling();
+    doc.insert_child_after(pugi::node_pcdata, node).set_value(std::string(kAfterRoot).c_str());
+    node = next;
+  }
+}
+
 struct StringWriter : pugi::xml_writer {
   std::string text;
   void write(const void* data, size_t size) override {
@@ -147,7 +166,7 @@ bool XMLConfiguration::LoadConfigurationFile(std::string_view path, bool create)
   const std::string text = ConfigurationBytesToText(bytes);
   const pugi::xml_parse_result result =
       document_->doc.load_buffer(text.data(), text.size(), kParseFlags, pugi::encoding_utf8);
-  if (!result || !HasSingleRoot(document_->doc)) {
+  if (!result || !HasSingleRoot(document_->doc) || HasTextOutsideMarkup(text)) {
     document_->parse_failed = true;
     document_->parse_status = result ? -1 : static_cast<int>(result.status);
     document_->parse_reason =
@@ -155,6 +174,7 @@ bool XMLConfiguration::LoadConfigurationFile(std::string_view path, bool create)
                : std::string(result.description()) + " at offset " + std::to_string(result.offset);
     Raise(kXmlReadConfigurationError, kXmlReadConfigurationText);
   }
+  RestoreTopLevelLayout(document_->doc);
   return true;
 }
 
