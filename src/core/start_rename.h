@@ -25,15 +25,15 @@ class OptionStore;
 // The options and the controls are read at each use, as the main window
 // does; nothing is cached across files.
 struct RenameRunEnv {
-  AppState& app;              // CancelRun, counters, BatchMode, CurrentPath
-  RenameSettings& settings;   // the renaming controls; a run may correct
-                              // `txtAddCount` as the window would
-  FileList& list;             // the selected rows are the run's files
-  OptionStore& options;       // read at each use
-  Interaction& interaction;   // every question, progress, caption, status
+  AppState& app;             // CancelRun, counters, BatchMode, CurrentPath
+  RenameSettings& settings;  // the renaming controls; a run may correct
+                             // `txtAddCount` as the window would
+  FileList& list;            // the selected rows are the run's files
+  OptionStore& options;      // read at each use
+  Interaction& interaction;  // every question, progress, caption, status
   const MessageTable& messages;
   const Clock& clock;
-  LogUndoState& log_undo;     // the folders and the batch name of the log and undo
+  LogUndoState& log_undo;  // the folders and the batch name of the log and undo
   const MediaInfoProvider& media = MediaInfoProvider::None();  // tags, EXIF
   // Refills the list at the end of a rename or copy run; absent: the list
   // keeps its rows (a front end that exits after the run needs no refill).
@@ -50,7 +50,7 @@ struct RenameRunResult {
   std::string stop_message;  // the box's text
   std::string focus_field;   // the control the box puts the focus on; may be empty
 
-  int mode = 0;  // the mode the run took: 0 rename, 1 copy, 2 test
+  int mode = 0;              // the mode the run took: 0 rename, 1 copy, 2 test
   std::int64_t done = 0;     // renamed, copied, or listed by a test
   std::int64_t failed = 0;   // an error of the file was reported
   std::int64_t skipped = 0;  // left as they were (a taken name, an open file ...)
