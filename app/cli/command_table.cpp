@@ -11,14 +11,14 @@ extern const Command kExpandCommand;
 extern const Command kCatalogueCommand;
 extern const Command kListCommand;
 extern const Command kSettingsCommand;
+extern const Command kRunCommand;
+extern const Command kPreviewCommand;
+extern const Command kUndoCommand;
 
 std::span<const Command> AllCommands() {
   static const std::array kCommands = {
-      kOptionsCommand,
-      kExpandCommand,
-      kCatalogueCommand,
-      kListCommand,
-      kSettingsCommand,
+      kOptionsCommand, kExpandCommand,  kCatalogueCommand, kListCommand,
+      kRunCommand,     kPreviewCommand, kUndoCommand,      kSettingsCommand,
   };
   return kCommands;
 }

@@ -1,14 +1,25 @@
+#include "core/start_rename.h"
+#include "persist/log_undo_env.h"
 #include "unattended_start.h"
 
 namespace tarnwick::gui {
 
-// The rename run of an unattended start. Until the run itself is part of the
-// core, the batch reports that it could not begin and no file is touched.
+// The run of an unattended start: every row of the list is selected already;
+// BatchMode asks no confirmation. The process ends after it, so the list is
+// not filled again.
 BatchRunOutcome RunBatchRename(const LogUndoEnv& env, RenameSettings& settings, FileList& list,
                                FileListLoader& loader) {
+  const RenameRunResult result = StartRename(
+      {env.app, settings, list, env.options, env.interaction, env.messages, env.clock, env.state});
   BatchRunOutcome outcome;
-  outcome.stopped = true;
-  outcome.stop_message = "the rename run is not part of this build";
+  outcome.ran = true;
+  outcome.stopped = result.stopped && !result.cancelled;
+  outcome.stop_message = result.stop_message;
+  outcome.mode = result.mode;
+  outcome.done = result.done;
+  outcome.failed = result.failed;
+  outcome.skipped = result.skipped;
+  outcome.cancelled = result.cancelled;
   return outcome;
 }
 
