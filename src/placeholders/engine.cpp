@@ -42,16 +42,17 @@ std::string ConvertOnce(const ExpansionContext& context, const ExpressionIndex& 
   return RunPass(context, index, file_date, file_path, faulted);
 }
 
-// Whether a later pass of the same call can come out differently from the
-// first: the letter counters read what the pass before them left, and the
-// clock, unique-id and random tokens take fresh values in every pass. Without
-// any of them every pass reads the same options, files and state and writes
-// the same attributes, so the first pass's result is the last one's, and the
-// repetition is skipped. A pass that faulted is repeated all the same, so the
-// log keeps its line per pass.
-bool LaterPassesCanDiffer(const ExpressionIndex& index) {
+// Whether the passes before the last one leave anything behind. Only the
+// last pass's text is kept, so an earlier pass matters only through what it
+// changes: the letter counters step from pass to pass (and act only from the
+// second one), and the random tokens draw from the pool, which a run does not
+// refill. Clock and unique-id tokens take fresh values in every pass but
+// leave nothing behind, so the last pass alone gives what all of them would.
+// Without such tokens every pass reads the same options, files and state and
+// writes the same attributes, and the repetition is skipped. A pass that
+// faulted is repeated all the same, so the log keeps its line per pass.
+bool EarlierPassesLeaveEffects(const ExpressionIndex& index) {
   return index.Has("{{count2char}}") || index.Has("{{count2alphanumeric}}") ||
-         index.HasPrefix("{{cdate") || index.HasPrefix("{{ctime") || index.Has("{{uniqueid}}") ||
          index.HasPrefix("{{random_number");
 }
 
@@ -74,7 +75,7 @@ std::string ConvertExpressionMultiple(const ExpansionContext& context, std::stri
     // One pass per "{{" and one more, each from the unchanged expression; the
     // last pass decides.
     const int passes = index.opening_count() + 1;
-    const bool repeat = LaterPassesCanDiffer(index);
+    const bool repeat = EarlierPassesLeaveEffects(index);
     std::string result;
     for (int i = 0; i < passes; ++i) {
       bool faulted = false;
