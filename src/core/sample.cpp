@@ -87,9 +87,22 @@ std::optional<Sample> ComputeSample(const PipelineEnv& env, std::size_t row,
     } else {
       // Outside a run the sample shows the first number.
       if (!env.app.run_active) env.app.CurrentCount = StartNumberValue(env.settings);
-      RowExpander expander(env, row, folder);
-      text = RunSampleActions(env, expander);
+      return ComputeRowName(env, row, folder);
     }
+    Sample sample;
+    sample.text = ReplaceIllegalChars(text, env.options);
+    sample.illegal_chars_replaced = !EqualsText(sample.text, text);
+    return sample;
+  } catch (const std::exception&) {
+    return std::nullopt;
+  }
+}
+
+std::optional<Sample> ComputeRowName(const PipelineEnv& env, std::size_t row,
+                                     std::string_view folder) {
+  try {
+    RowExpander expander(env, row, folder);
+    const std::string text = RunSampleActions(env, expander);
     Sample sample;
     sample.text = ReplaceIllegalChars(text, env.options);
     sample.illegal_chars_replaced = !EqualsText(sample.text, text);

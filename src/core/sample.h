@@ -49,6 +49,12 @@ struct Sample {
 std::optional<Sample> ComputeSample(const PipelineEnv& env, std::size_t row,
                                     std::string_view folder, SampleRate rate);
 
+// The name of the row with the controls as they are, at the present counter
+// value (`AppState::CurrentCount`), computed as the sample does: no question,
+// no counter step. Nothing when a step fails.
+std::optional<Sample> ComputeRowName(const PipelineEnv& env, std::size_t row,
+                                     std::string_view folder);
+
 // The caption of the sample frame: "Sample   [Length: 12 chars]".
 std::string SampleFrameCaption(const MessageTable& messages, std::string_view sample);
 
