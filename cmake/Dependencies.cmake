@@ -8,3 +8,5 @@ pkg_check_modules(PCRE2 REQUIRED IMPORTED_TARGET libpcre2-8)
 pkg_check_modules(UUID REQUIRED IMPORTED_TARGET uuid)
 find_package(GTest)
 find_package(benchmark QUIET)
+# The desktop application and its tests.
+find_package(Qt6 REQUIRED COMPONENTS Widgets Test)

@@ -9,6 +9,7 @@ packages=(
   libicu-dev libpcre2-dev libpugixml-dev libssl-dev uuid-dev
   libjpeg62-turbo-dev libpng-dev libtiff-dev libgif-dev
   python3
+  qt6-base-dev
 )
 
 missing=()

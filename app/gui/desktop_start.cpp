@@ -1,0 +1,100 @@
+#include "desktop_start.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QPixmap>
+#include <QTableView>
+#include <chrono>
+
+#include "main_window.h"
+#include "persist/option_store.h"
+#include "qt_text.h"
+#include "startup/startup.h"
+
+namespace tarnwick::gui {
+namespace {
+
+std::string JoinArguments(std::span<const std::string> args) {
+  std::string line;
+  for (const std::string& arg : args) {
+    if (!line.empty()) line += ' ';
+    line += arg;
+  }
+  return line;
+}
+
+// Start-up of the window with `line` as the command line. False when start-up
+// ended the process.
+bool StartWindow(MainWindow& window, const std::string& line, std::ostream& err) {
+  window.app().LoadingFlag = true;
+  const StartupResult result =
+      RunStartup(window.env(), window.settings(), window.host(), MachineStartupInput(line));
+  window.app().LoadingFlag = false;
+  if (result.outcome == StartupResult::Outcome::kReady) return true;
+  if (!result.error.empty()) err << "tarnwick: start-up failed: " << result.error << '\n';
+  return false;
+}
+
+}  // namespace
+
+int RunDesktop(int& argc, char** argv, std::span<const std::string> args, std::ostream& err) {
+  QApplication application(argc, argv);
+  QApplication::setApplicationName("Tarnwick");
+  QApplication::setOrganizationName("Oakhollow");
+  OptionStore options = OptionStore::ForCurrentUser();
+  MainWindow window(options, MessageTable::Get(SystemLanguage()));
+  if (!StartWindow(window, JoinArguments(args), err)) return 2;
+  window.show();
+  return QApplication::exec();
+}
+
+int RunScreenshot(int& argc, char** argv, std::span<const std::string> args, std::ostream& err) {
+  if (args.size() < 2) {
+    err << "usage: tarnwick --screenshot OUT.png [FOLDER] [--size WxH]\n";
+    return 2;
+  }
+  const QString out = Q(args[1]);
+  std::string folder;
+  QSize size(1200, 800);
+  for (std::size_t i = 2; i < args.size(); ++i) {
+    if (args[i] == "--size" && i + 1 < args.size()) {
+      const QStringList parts = Q(args[++i]).split('x');
+      if (parts.size() == 2) size = QSize(parts[0].toInt(), parts[1].toInt());
+    } else {
+      folder = args[i];
+    }
+  }
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication application(argc, argv);
+  OptionStore options = OptionStore::ForCurrentUser();
+  MainWindow window(options, MessageTable::Get(SystemLanguage()));
+  window.resize(size);
+  QElapsedTimer timer;
+  timer.start();
+  if (!StartWindow(window, folder, err)) return 2;
+  const qint64 fill_ms = timer.elapsed();
+  timer.restart();
+  window.SortBy(0, true);
+  window.SortBy(0, false);
+  const qint64 sort_ms = timer.elapsed();
+  timer.restart();
+  window.SelectAll();
+  const qint64 select_ms = timer.elapsed();
+  window.DeselectAll();
+  window.file_view()->selectRow(0);
+  timer.restart();
+  window.SampleTick(true);
+  const qint64 sample_ms = timer.elapsed();
+  window.FinishNewNames();
+  window.show();
+  QApplication::processEvents();
+  if (!window.grab().save(out)) {
+    err << "tarnwick: could not write " << args[1] << '\n';
+    return 2;
+  }
+  err << "tarnwick: " << window.list().size() << " files; fill " << fill_ms << " ms, two sorts "
+      << sort_ms << " ms, select all " << select_ms << " ms, one sample " << sample_ms << " ms\n";
+  return 0;
+}
+
+}  // namespace tarnwick::gui

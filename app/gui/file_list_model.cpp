@@ -1,0 +1,63 @@
+#include "file_list_model.h"
+
+#include <QBrush>
+#include <QFont>
+
+#include "qt_text.h"
+
+namespace tarnwick::gui {
+
+FileListModel::FileListModel(const FileList& list, const NewNamePreview& preview, QObject* parent)
+    : QAbstractTableModel(parent), list_(list), preview_(preview) {}
+
+void FileListModel::SetHeadings(const std::array<std::string, file_column::kCount>& headings,
+                                const std::string& new_name_heading) {
+  for (int i = 0; i < file_column::kCount; ++i) headings_[i] = Q(headings[i]);
+  headings_[kNewNameColumn] = Q(new_name_heading);
+  emit headerDataChanged(Qt::Horizontal, 0, kNewNameColumn);
+}
+
+void FileListModel::Refresh() {
+  beginResetModel();
+  shown_rows_ = static_cast<int>(list_.size());
+  endResetModel();
+}
+
+void FileListModel::NewNamesChanged(int first, int last) {
+  if (shown_rows_ == 0 || first > last) return;
+  emit dataChanged(index(first, kNewNameColumn), index(last, kNewNameColumn));
+}
+
+int FileListModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : shown_rows_;
+}
+
+int FileListModel::columnCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : kNewNameColumn + 1;
+}
+
+QVariant FileListModel::data(const QModelIndex& index, int role) const {
+  if (!index.isValid()) return {};
+  const auto row = static_cast<std::size_t>(index.row());
+  const int column = index.column();
+  if (column == kNewNameColumn) {
+    const NewNameRow* entry = preview_.Find(row);
+    if (entry == nullptr) return {};
+    if (role == Qt::DisplayRole) return Q(entry->name);
+    if (role == Qt::ForegroundRole && entry->collides) return QBrush(Qt::red);
+    return {};
+  }
+  if (role == Qt::DisplayRole) return Q(list_.Text(row, column));
+  if (role == Qt::TextAlignmentRole && column == file_column::kSize) {
+    return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+  }
+  return {};
+}
+
+QVariant FileListModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
+  if (section < 0 || section > kNewNameColumn) return {};
+  return headings_[section];
+}
+
+}  // namespace tarnwick::gui

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QAbstractTableModel>
+#include <array>
+#include <string>
+
+#include "core/new_name_preview.h"
+#include "filelist/file_list.h"
+
+namespace tarnwick::gui {
+
+// The list `lvwFiles` as a Qt model over the core's FileList: no copy of the
+// rows, texts built when the view asks for them. The row count the view sees
+// changes only at Refresh, so a fill or a run may change the list underneath
+// while the view keeps painting (rows beyond the list read as empty).
+// Column 11 is the "New name" column, read from a NewNamePreview.
+class FileListModel : public QAbstractTableModel {
+  Q_OBJECT
+
+ public:
+  static constexpr int kNewNameColumn = file_column::kCount;
+
+  FileListModel(const FileList& list, const NewNamePreview& preview, QObject* parent = nullptr);
+
+  void SetHeadings(const std::array<std::string, file_column::kCount>& headings,
+                   const std::string& new_name_heading);
+  // The view takes the list's present rows.
+  void Refresh();
+  // The "New name" column changed for the rows from `first` to `last`.
+  void NewNamesChanged(int first, int last);
+
+  int rowCount(const QModelIndex& parent = {}) const override;
+  int columnCount(const QModelIndex& parent = {}) const override;
+  QVariant data(const QModelIndex& index, int role) const override;
+  QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+ private:
+  const FileList& list_;
+  const NewNamePreview& preview_;
+  int shown_rows_ = 0;
+  std::array<QString, file_column::kCount + 1> headings_;
+};
+
+}  // namespace tarnwick::gui

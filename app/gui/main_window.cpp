@@ -1,0 +1,640 @@
+#include "main_window.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QClipboard>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QDesktopServices>
+#include <QFileInfo>
+#include <QFileSystemModel>
+#include <QFileSystemWatcher>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QItemSelectionModel>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QSplitter>
+#include <QStatusBar>
+#include <QTableView>
+#include <QTreeView>
+#include <QUrl>
+#include <QVBoxLayout>
+
+#include "control_binding.h"
+#include "core/action_order.h"
+#include "core/pipeline_actions.h"
+#include "core/settings_file.h"
+#include "core/start_rename.h"
+#include "file_list_model.h"
+#include "filelist/column_headings.h"
+#include "pattern_picker_dialog.h"
+#include "persist/default_paths.h"
+#include "persist/option_store.h"
+#include "qt_text.h"
+#include "rename_controls.h"
+#include "sort_order_dialog.h"
+#include "startup/startup.h"
+#include "window_host.h"
+
+namespace tarnwick::gui {
+namespace {
+
+constexpr int kNewNameSlice = 250;
+
+bool NewNamesOption(const OptionStore& options) {
+  return options.GetOption("ShowNewNames", "Options", "1") != "0";
+}
+
+}  // namespace
+
+MainWindow::MainWindow(OptionStore& options, const MessageTable& messages, Interaction* questions)
+    : options_(options),
+      messages_(messages),
+      own_interaction_(questions == nullptr
+                           ? std::make_unique<QtInteraction>(messages, this, this)
+                           : nullptr),
+      interaction_(questions != nullptr ? questions : own_interaction_.get()),
+      env_{options_, *interaction_, messages_, clock_, app_, log_state_},
+      fill_log_(env_),
+      loader_(FileListContext{options_, app_, *interaction_, fill_log_, media_, messages_}) {
+  setObjectName("frmMain");
+  setWindowTitle(Msg(messages, "run.caption_program"));
+  setWindowIcon(QIcon::fromTheme("tarnwick"));
+  new_names_shown_ = NewNamesOption(options_);
+  BuildWidgets();
+  BuildMenus();
+  connect(&change_timer_, &QTimer::timeout, this, [this] { SampleTick(); });
+  new_name_timer_.setInterval(0);
+  connect(&new_name_timer_, &QTimer::timeout, this, &MainWindow::NewNameSlice);
+  new_name_restart_.setSingleShot(true);
+  new_name_restart_.setInterval(250);
+  connect(&new_name_restart_, &QTimer::timeout, this, &MainWindow::RestartNewNames);
+  refill_timer_.setSingleShot(true);
+  refill_timer_.setInterval(700);
+  connect(&refill_timer_, &QTimer::timeout, this, [this] {
+    if (app_.run_active) return;
+    FillListFiles();
+  });
+  ShowSettings();
+  ShowActionOrder();
+}
+
+MainWindow::~MainWindow() {
+  change_timer_.stop();
+  new_name_timer_.stop();
+}
+
+void MainWindow::BuildWidgets() {
+  auto* split = new QSplitter(Qt::Horizontal, this);
+  folder_model_ = new QFileSystemModel(this);
+  folder_model_->setFilter(QDir::AllDirs | QDir::NoDotAndDotDot | QDir::Drives);
+  folder_model_->setRootPath("/");
+  folders_ = new QTreeView(split);
+  folders_->setObjectName("ctlExplorer1");
+  folders_->setModel(folder_model_);
+  for (int column = 1; column < folder_model_->columnCount(); ++column) folders_->hideColumn(column);
+  folders_->setHeaderHidden(true);
+  connect(folders_->selectionModel(), &QItemSelectionModel::currentChanged, this,
+          [this](const QModelIndex& index) { FolderChosen(index); });
+  split->addWidget(folders_);
+
+  auto* right = new QSplitter(Qt::Vertical, split);
+  right->addWidget(BuildListPane());
+  right->addWidget(BuildLowerPane());
+  right->setStretchFactor(0, 3);
+  right->setStretchFactor(1, 2);
+  split->addWidget(right);
+  split->setStretchFactor(0, 1);
+  split->setStretchFactor(1, 4);
+  split->setSizes({230, 970});
+  setCentralWidget(split);
+
+  status_ = new QLabel(this);
+  status_->setObjectName("lblStatus");
+  progress_ = new QProgressBar(this);
+  progress_->setObjectName("prgBar");
+  progress_->setMaximumWidth(220);
+  progress_->hide();
+  statusBar()->addWidget(status_, 1);
+  statusBar()->addPermanentWidget(progress_);
+
+  watcher_ = new QFileSystemWatcher(this);
+  connect(watcher_, &QFileSystemWatcher::directoryChanged, this, [this] {
+    if (options_.GetOption("CheckNotForNewFiles", "Options", "0") == "1") return;
+    refill_timer_.start();
+  });
+}
+
+QWidget* MainWindow::BuildListPane() {
+  auto* pane = new QWidget(this);
+  auto* layout = new QVBoxLayout(pane);
+  layout->setContentsMargins(0, 0, 0, 0);
+  auto* filter = new QHBoxLayout;
+  filter->addWidget(new QLabel(Msg(messages_, "main.label.extension_filter"), pane));
+  extension_ = new QComboBox(pane);
+  extension_->setObjectName("cboExtension");
+  extension_->setEditable(true);
+  extension_->setMinimumContentsLength(12);
+  extension_->setInsertPolicy(QComboBox::NoInsert);
+  filter->addWidget(extension_);
+  subfolders_ = new QCheckBox(Msg(messages_, "main.label.include_subfolders"), pane);
+  subfolders_->setObjectName("chkIncludeSubfolders");
+  filter->addWidget(subfolders_);
+  filter->addStretch();
+  layout->addLayout(filter);
+
+  model_ = new FileListModel(list_, preview_, this);
+  model_->SetHeadings(ColumnHeadings(options_, messages_),
+                      std::string(messages_.Text("result_list.column_new_name")));
+  files_ = new QTableView(pane);
+  files_->setObjectName("lvwFiles");
+  files_->setModel(model_);
+  files_->setSelectionBehavior(QAbstractItemView::SelectRows);
+  files_->setSelectionMode(QAbstractItemView::ExtendedSelection);
+  files_->setShowGrid(false);
+  files_->setWordWrap(false);
+  files_->setSortingEnabled(false);
+  files_->verticalHeader()->hide();
+  files_->verticalHeader()->setDefaultSectionSize(files_->fontMetrics().height() + 4);
+  files_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  files_->horizontalHeader()->setSectionsClickable(true);
+  files_->horizontalHeader()->setSortIndicatorShown(true);
+  files_->horizontalHeader()->setHighlightSections(false);
+  files_->hideColumn(file_column::kSizeBytes);
+  files_->hideColumn(file_column::kExtension);
+  files_->setColumnHidden(FileListModel::kNewNameColumn, !new_names_shown_);
+  files_->setColumnWidth(file_column::kName, 240);
+  files_->setColumnWidth(FileListModel::kNewNameColumn, 240);
+  files_->horizontalHeader()->moveSection(FileListModel::kNewNameColumn, 1);
+  files_->setDragDropMode(QAbstractItemView::NoDragDrop);
+  files_->installEventFilter(this);
+  connect(files_->horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int column) {
+    const auto sorted = list_.sort_columns();
+    const bool descending = !sorted.empty() && sorted.front().column == column &&
+                            !sorted.front().descending;
+    SortBy(column, descending);
+  });
+  connect(files_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+          [this] { ViewSelectionToList(); });
+  connect(files_, &QTableView::doubleClicked, this,
+          [this](const QModelIndex& index) { OpenPath(list_.Path(index.row())); });
+  layout->addWidget(files_);
+
+  connect(extension_, &QComboBox::activated, this, [this] {
+    ControlChanged("cboExtension", S(extension_->currentText()));
+    app_.CurrentFilter = settings_.cboExtension;
+    FillListFiles();
+  });
+  connect(extension_->lineEdit(), &QLineEdit::returnPressed, this, [this] {
+    ControlChanged("cboExtension", S(extension_->currentText()));
+    app_.CurrentFilter = settings_.cboExtension;
+    FillListFiles();
+  });
+  connect(subfolders_, &QCheckBox::toggled, this, [this](bool on) {
+    ControlChanged("chkIncludeSubfolders", on ? "1" : "0");
+    FillListFiles();
+  });
+  return pane;
+}
+
+QWidget* MainWindow::BuildLowerPane() {
+  auto* pane = new QWidget(this);
+  auto* layout = new QVBoxLayout(pane);
+  layout->setContentsMargins(0, 0, 0, 0);
+  auto* settings_frame = new QGroupBox(Msg(messages_, "settings_file.frame_settings"), pane);
+  settings_frame->setObjectName("fraSettings");
+  auto* frame_layout = new QVBoxLayout(settings_frame);
+  controls_ = new RenameControls(messages_, settings_frame);
+  auto* scroll = new QScrollArea(settings_frame);
+  scroll->setWidget(controls_);
+  scroll->setWidgetResizable(true);
+  scroll->setFrameShape(QFrame::NoFrame);
+  frame_layout->addWidget(scroll);
+  layout->addWidget(settings_frame, 1);
+  for (QLineEdit* field : controls_->text_fields()) field->installEventFilter(this);
+  connect(controls_, &RenameControls::PatternRequested, this, &MainWindow::OpenPatternPicker);
+  connect(controls_, &RenameControls::ActionOrderRequested, this, &MainWindow::EditActionOrder);
+
+  sample_frame_ = new QGroupBox(Msg(messages_, "sample.frame_caption"), pane);
+  sample_frame_->setObjectName("fraSample");
+  auto* sample_layout = new QHBoxLayout(sample_frame_);
+  sample_ = new QLineEdit(sample_frame_);
+  sample_->setObjectName("txtSample");
+  sample_->setReadOnly(true);
+  sample_->setToolTip(Msg(messages_, "sample.char_positions_note"));
+  sample_layout->addWidget(sample_);
+  connect(sample_, &QLineEdit::selectionChanged, this, [this] {
+    const std::string status = SampleSelectionStatus(
+        messages_, S(sample_->text()), static_cast<std::size_t>(std::max(0, sample_->selectionStart())),
+        static_cast<std::size_t>(sample_->selectedText().size()));
+    if (!status.empty()) status_->setText(Q(status));
+  });
+  layout->addWidget(sample_frame_);
+
+  auto* buttons = new QHBoxLayout;
+  auto* save = new QPushButton(Msg(messages_, "main.button.save_settings"), pane);
+  save->setObjectName("cmdSaveSettings");
+  start_ = new QPushButton(Msg(messages_, "main.button.start"), pane);
+  start_->setObjectName("cmdStart");
+  start_->setDefault(true);
+  auto* exit = new QPushButton(Msg(messages_, "main.button.exit"), pane);
+  exit->setObjectName("cmdExit");
+  buttons->addWidget(save);
+  buttons->addStretch();
+  buttons->addWidget(start_);
+  buttons->addWidget(exit);
+  layout->addLayout(buttons);
+  connect(save, &QPushButton::clicked, this, &MainWindow::SaveSettings);
+  connect(start_, &QPushButton::clicked, this, &MainWindow::StartRenaming);
+  connect(exit, &QPushButton::clicked, this, &QWidget::close);
+
+  ConnectControls(pane, [this](std::string_view name, const std::string& value) {
+    ControlChanged(name, value);
+  });
+  return pane;
+}
+
+PipelineEnv MainWindow::SampleEnv() {
+  return PipelineEnv{app_,      settings_, list_,   options_, *interaction_, messages_,
+                     clock_,    MediaInfoProvider::None(), nullptr, list_.SelectedCount()};
+}
+
+// --- Controls. -------------------------------------------------------------
+
+void MainWindow::ShowSettings() {
+  WriteControls(this, settings_);
+  {
+    const QSignalBlocker block(subfolders_);
+    subfolders_->setChecked(Ticked(settings_.chkIncludeSubfolders));
+  }
+  RefreshControlStates();
+}
+
+void MainWindow::RefreshControlStates() {
+  if (!start_->isEnabled()) return;
+  controls_->RefreshControlStates(settings_);
+}
+
+void MainWindow::ControlChanged(std::string_view name, const std::string& value) {
+  SetRenameSetting(settings_, name, value);
+  if (!app_.LoadingFlag) app_.SettingsDirty = true;
+  RefreshControlStates();
+  new_name_restart_.start();
+}
+
+void MainWindow::ShowActionOrder() {
+  QStringList names;
+  const ActionOrder order = ReadActionOrder(options_);
+  for (std::size_t i = 0; i < order.size(); ++i) {
+    if (order[i] == 0 || !ActionTicked(settings_, order[i])) continue;
+    names << Q(ActionDisplayName(order[i], messages_));
+  }
+  controls_->action_order_label()->setText(Msg(messages_, "main.label.action_order") + " " +
+                                           (names.isEmpty() ? QString("-") : names.join(" > ")));
+}
+
+void MainWindow::OpenPatternPicker(QLineEdit* field) {
+  PatternPickerDialog dialog(messages_, S(field->text()),
+                             static_cast<std::size_t>(field->cursorPosition()), this);
+  if (dialog.exec() != QDialog::Accepted) return;
+  const FieldUpdate update = dialog.FieldAfter();
+  if (update.clipboard) QApplication::clipboard()->setText(Q(*update.clipboard));
+  field->setText(Q(update.text));
+  field->setCursorPosition(static_cast<int>(update.cursor));
+  ControlChanged(S(field->objectName()), update.text);
+}
+
+void MainWindow::EditActionOrder() {
+  SortOrderDialog dialog(options_, messages_, *interaction_, this);
+  if (dialog.exec() != QDialog::Accepted) return;
+  ShowActionOrder();
+  new_name_restart_.start();
+}
+
+// --- The list. ---------------------------------------------------------------
+
+void MainWindow::FillListFiles() {
+  change_timer_.stop();
+  new_name_timer_.stop();
+  preview_.Start(SampleEnv());  // no rows are selected while the list is empty
+  StopFolderWatch();
+  FillRequest request;
+  request.folder = app_.CurrentPath;
+  request.include_subfolders = Ticked(settings_.chkIncludeSubfolders);
+  list_.Clear();
+  model_->Refresh();
+  loader_.FillListFiles(list_, request);
+  model_->Refresh();
+  UpdateFilterItems();
+  ListSelectionToView();
+  StartFolderWatch();
+  ApplySampleRate();
+  RestartNewNames();
+}
+
+void MainWindow::UpdateFilterItems() {
+  const QSignalBlocker block(extension_);
+  const QString text = Q(app_.CurrentFilter);
+  extension_->clear();
+  for (const std::string& item : loader_.Extensions()) extension_->addItem(Q(item));
+  extension_->setEditText(text);
+}
+
+void MainWindow::ShowFolder(const QString& folder) {
+  app_.CurrentPath = S(folder);
+  const QModelIndex index = folder_model_->index(folder);
+  {
+    const QSignalBlocker block(folders_->selectionModel());
+    folders_->setCurrentIndex(index);
+  }
+  folders_->scrollTo(index);
+  FillListFiles();
+}
+
+void MainWindow::FolderChosen(const QModelIndex& index) {
+  if (!index.isValid() || app_.run_active) return;
+  const QString path = folder_model_->filePath(index);
+  if (S(path) == app_.CurrentPath) return;
+  app_.CurrentPath = S(path);
+  FillListFiles();
+}
+
+void MainWindow::ViewSelectionToList() {
+  if (syncing_selection_) return;
+  list_.DeselectAll();
+  const QItemSelection selection = files_->selectionModel()->selection();
+  for (const QItemSelectionRange& range : selection) {
+    for (int row = range.top(); row <= range.bottom(); ++row) list_.Select(row);
+  }
+  new_name_restart_.start();
+}
+
+void MainWindow::ListSelectionToView() {
+  syncing_selection_ = true;
+  QItemSelection selection;
+  const auto rows = list_.rows();
+  const int shown = model_->rowCount();
+  const int last_column = model_->columnCount() - 1;
+  int first = -1;
+  for (int row = 0; row <= shown; ++row) {
+    const bool selected = row < shown && static_cast<std::size_t>(row) < rows.size() &&
+                          rows[row].selected;
+    if (selected && first < 0) first = row;
+    if (!selected && first >= 0) {
+      selection.select(model_->index(first, 0), model_->index(row - 1, last_column));
+      first = -1;
+    }
+  }
+  files_->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+  const std::vector<std::size_t> selected = list_.SelectedRows();
+  if (!selected.empty()) {
+    files_->selectionModel()->setCurrentIndex(model_->index(static_cast<int>(selected.back()), 0),
+                                              QItemSelectionModel::NoUpdate);
+  }
+  syncing_selection_ = false;
+  new_name_restart_.start();
+}
+
+void MainWindow::SelectAll() {
+  list_.SelectAll();
+  ListSelectionToView();
+}
+
+void MainWindow::DeselectAll() {
+  list_.DeselectAll();
+  ListSelectionToView();
+}
+
+void MainWindow::InvertSelection() {
+  list_.InvertSelection();
+  ListSelectionToView();
+}
+
+void MainWindow::RemoveSelectedFromList() {
+  if (list_.RemoveSelected() == 0) return;
+  model_->Refresh();
+  ListSelectionToView();
+}
+
+void MainWindow::SortBy(int column, bool descending) {
+  const SortColumn sort{column, descending};
+  list_.MultiSortListView(std::span<const SortColumn>(&sort, 1));
+  model_->Refresh();
+  files_->horizontalHeader()->setSortIndicator(
+      column, descending ? Qt::DescendingOrder : Qt::AscendingOrder);
+  ListSelectionToView();
+}
+
+void MainWindow::OpenPath(const std::string& path) {
+  if (path.empty()) return;
+  QDesktopServices::openUrl(QUrl::fromLocalFile(Q(path)));
+}
+
+// --- "New name". --------------------------------------------------------------
+
+void MainWindow::SetNewNameColumnShown(bool shown) {
+  new_names_shown_ = shown;
+  options_.SaveOption("ShowNewNames", "Options", shown ? "1" : "0");
+  files_->setColumnHidden(FileListModel::kNewNameColumn, !shown);
+  RestartNewNames();
+}
+
+void MainWindow::RestartNewNames() {
+  new_name_restart_.stop();
+  if (!new_names_shown_ || app_.run_active) {
+    new_name_timer_.stop();
+    return;
+  }
+  preview_.Start(SampleEnv());
+  model_->NewNamesChanged(0, model_->rowCount() - 1);
+  new_name_timer_.start();
+}
+
+void MainWindow::NewNameSlice() {
+  const std::size_t before = preview_.rows().size();
+  const bool done = preview_.Step(SampleEnv(), kNewNameSlice);
+  const auto& rows = preview_.rows();
+  if (rows.size() > before) {
+    model_->NewNamesChanged(static_cast<int>(rows[before].row), static_cast<int>(rows.back().row));
+  }
+  if (done) {
+    new_name_timer_.stop();
+  }
+}
+
+void MainWindow::FinishNewNames() {
+  RestartNewNames();
+  while (new_name_timer_.isActive()) NewNameSlice();
+}
+
+QString MainWindow::NewNameStatus() const {
+  if (!new_names_shown_ || preview_.collision_count() == 0) return {};
+  return "    " + Q(FillMessage(messages_.Text("main.status.collisions"),
+                              {std::to_string(preview_.collision_count())}));
+}
+
+// --- The sample. ----------------------------------------------------------------
+
+void MainWindow::ApplySampleRate() {
+  rate_ = ReadSampleRate(options_, messages_);
+  sample_frame_->setVisible(rate_ != SampleRate::kTurnOff);
+  const int interval = SampleIntervalMilliseconds(rate_);
+  if (interval > 0) change_timer_.start(interval);
+}
+
+void MainWindow::SampleTick(bool force) {
+  ShowActionOrder();
+  setWindowTitle(Msg(messages_, "run.caption_program") + "  [" +
+                 Msg(messages_, "sample.status_file_count") + " " + QString::number(list_.size()) +
+                 ", " + Msg(messages_, "sample.status_selected") + " " +
+                 QString::number(list_.SelectedCount()) + ", " +
+                 Msg(messages_, "sample.status_path") + " " +
+                 Q(CompactPath(app_.CurrentPath, 55)) + "]");
+  if (list_.empty()) {
+    status_->setText(Msg(messages_, "sample.no_files_in_folder"));
+    sample_->clear();
+    return;
+  }
+  if (!sample_->hasSelectedText()) {
+    status_->setText(Msg(messages_, "sample.status_file_count") + " " +
+                     QString::number(list_.size()) + "    " +
+                     Msg(messages_, "sample.status_selected") + " " +
+                     QString::number(list_.SelectedCount()) + NewNameStatus());
+  }
+  const SampleConditions conditions{force || isActiveWindow(), false, app_.FieldHasFocus};
+  if (SampleKeepsItsText(conditions, rate_)) return;
+  const std::vector<std::size_t> selected = list_.SelectedRows();
+  const std::size_t row = selected.empty() ? 0 : selected.front();
+  const std::optional<Sample> sample =
+      ComputeSample(SampleEnv(), row, list_.Folder(row), rate_);
+  if (!sample) return;
+  const QString caption = Q(SampleFrameCaption(messages_, sample->text));
+  if (sample_frame_->title() != caption) sample_frame_->setTitle(caption);
+  const QString text = Q(sample->text);
+  if (sample_->text() != text) {
+    sample_->setText(text);
+    if (text.size() > sample_length_) sample_->setCursorPosition(static_cast<int>(text.size()));
+    sample_length_ = static_cast<int>(text.size());
+  }
+  QPalette palette = sample_->palette();
+  palette.setColor(QPalette::Text, sample->illegal_chars_replaced
+                                       ? QColor(Qt::red)
+                                       : QApplication::palette().color(QPalette::ButtonText));
+  sample_->setPalette(palette);
+}
+
+// --- The run and the settings files. --------------------------------------------
+
+void MainWindow::StartRenaming() {
+  change_timer_.stop();
+  new_name_timer_.stop();
+  ViewSelectionToList();
+  const RenameRunResult result = StartRename({app_, settings_, list_, options_, *interaction_,
+                                              messages_, clock_, log_state_,
+                                              MediaInfoProvider::None(), &loader_});
+  model_->Refresh();
+  UpdateFilterItems();
+  ListSelectionToView();
+  if (const std::vector<std::size_t> rows = list_.SelectedRows(); !rows.empty() &&
+      options_.GetOption("JumpToLastSelectedFile", "Options", "1") == "1") {
+    files_->scrollTo(model_->index(static_cast<int>(rows.back()), 0));
+  }
+  if (result.stopped && !result.focus_field.empty()) {
+    if (QWidget* field = findChild<QWidget*>(Q(result.focus_field))) field->setFocus();
+  }
+  ShowSettings();
+  ApplySampleRate();
+  RestartNewNames();
+}
+
+void MainWindow::LoadSettings() {
+  const LoadSettingsResult result = LoadIniSettings(env_, settings_);
+  if (result.outcome != LoadSettingsResult::Outcome::kLoaded) return;
+  ShowSettings();
+  ShowActionOrder();
+  app_.CurrentFilter = settings_.cboExtension;
+  ShowFolder(Q(app_.CurrentPath));
+}
+
+void MainWindow::SaveSettings() {
+  SaveSettingsResult result = tarnwick::SaveSettings(env_, settings_, ProgramFoldersUnder(UserDataBaseFolder()).settings);
+  if (result.outcome == SaveSettingsResult::Outcome::kSaved) app_.SettingsDirty = false;
+  ShowSettings();
+}
+
+// --- ProgressView. ------------------------------------------------------------------
+
+void MainWindow::ShowStatusText(StatusArea area, const QString& text) {
+  if (area == StatusArea::kSampleFrame) {
+    sample_frame_->setTitle(text);
+  } else {
+    status_->setText(text);
+  }
+}
+
+void MainWindow::SetWindowCaption(const QString& text) { setWindowTitle(text); }
+
+void MainWindow::ShowProgressBar(std::int64_t value, std::int64_t max) {
+  // The bar counts in int; big lists are scaled.
+  const double scale = max > 1000000 ? 1000000.0 / static_cast<double>(max) : 1.0;
+  progress_->setRange(0, static_cast<int>(static_cast<double>(max) * scale));
+  progress_->setValue(static_cast<int>(static_cast<double>(value) * scale));
+  progress_->show();
+}
+
+void MainWindow::HideProgressBar() { progress_->hide(); }
+
+void MainWindow::PrepareButtons(bool enable, bool keep_busy_indicator) {
+  app_.run_active = !enable;
+  centralWidget()->setEnabled(enable);
+  menuBar()->setEnabled(enable);
+  start_->setEnabled(enable);
+  if (enable) {
+    StartFolderWatch();
+  } else {
+    StopFolderWatch();
+  }
+  if (keep_busy_indicator) return;
+  if (enable) {
+    while (QApplication::overrideCursor() != nullptr) QApplication::restoreOverrideCursor();
+  } else {
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+  }
+}
+
+void MainWindow::StartFolderWatch() {
+  StopFolderWatch();
+  if (!app_.CurrentPath.empty() && QFileInfo(Q(app_.CurrentPath)).isDir()) {
+    watcher_->addPath(Q(app_.CurrentPath));
+  }
+}
+
+void MainWindow::StopFolderWatch() {
+  if (!watcher_->directories().isEmpty()) watcher_->removePaths(watcher_->directories());
+}
+
+// --- Events. -------------------------------------------------------------------------
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::FocusIn && qobject_cast<QLineEdit*>(watched) != nullptr &&
+      watched != sample_) {
+    app_.FieldHasFocus = true;
+    auto* field = static_cast<QLineEdit*>(watched);
+    QTimer::singleShot(0, field, [field] { field->selectAll(); });
+  } else if (event->type() == QEvent::FocusOut && qobject_cast<QLineEdit*>(watched) != nullptr) {
+    app_.FieldHasFocus = false;
+  } else if (watched == files_ && event->type() == QEvent::KeyPress &&
+             static_cast<QKeyEvent*>(event)->key() == Qt::Key_Delete) {
+    RemoveSelectedFromList();
+    return true;
+  }
+  return QMainWindow::eventFilter(watched, event);
+}
+
+}  // namespace tarnwick::gui

@@ -1,0 +1,181 @@
+#pragma once
+
+#include <QMainWindow>
+#include <QTimer>
+#include <memory>
+#include <string>
+
+#include "base/clock.h"
+#include "core/new_name_preview.h"
+#include "core/rename_settings.h"
+#include "core/sample.h"
+#include "filelist/file_list.h"
+#include "filelist/list_loader.h"
+#include "filelist/media_source.h"
+#include "persist/log_file.h"
+#include "persist/log_undo_env.h"
+#include "persist/log_undo_state.h"
+#include "qt_interaction.h"
+#include "shell/app_state.h"
+#include "startup/startup_host.h"
+#include "shell/message_table.h"
+
+class QCheckBox;
+class QComboBox;
+class QFileSystemModel;
+class QFileSystemWatcher;
+class QGroupBox;
+class QLabel;
+class QLineEdit;
+class QProgressBar;
+class QPushButton;
+class QTableView;
+class QTreeView;
+
+namespace tarnwick::gui {
+
+class FileListModel;
+class RenameControls;
+class WindowHost;
+
+// The main window `frmMain`: the folder browser, the list `lvwFiles`, the
+// renaming controls, the sample and the start button. It owns the state the
+// core works on (AppState, RenameSettings, FileList) and lends it to the
+// core's entry points; it holds no renaming logic of its own.
+//
+// `questions` answers what the core asks; nullptr: the window's own message
+// boxes and dialogues. Tests hand in a scripted one.
+class MainWindow : public QMainWindow, public ProgressView {
+  Q_OBJECT
+
+ public:
+  MainWindow(OptionStore& options, const MessageTable& messages, Interaction* questions = nullptr);
+  ~MainWindow() override;
+
+  const LogUndoEnv& env() const { return env_; }
+  AppState& app() { return app_; }
+  RenameSettings& settings() { return settings_; }
+  FileList& list() { return list_; }
+  const NewNamePreview& new_names() const { return preview_; }
+  Interaction& interaction() { return *interaction_; }
+  // The window's share of start-up and closing.
+  StartupHost& host();
+
+  // --- What start-up and the menus do. ---
+  // `FillListFiles` for CurrentPath and CurrentFilter.
+  void FillListFiles();
+  // Shows the folder in the browser and fills the list with it.
+  void ShowFolder(const QString& folder);
+  // The renaming controls show `settings()`.
+  void ShowSettings();
+  void RefreshControlStates();
+  void ApplySampleRate();
+  // One tick of `tmrChange`. `force`: also when the window is not in front.
+  void SampleTick(bool force = false);
+  // Computes the whole "New name" column now (tests, screenshots).
+  void FinishNewNames();
+  // `cmdStart`.
+  void StartRenaming();
+  void LoadSettings();
+  void SaveSettings();
+  void EditActionOrder();
+  void SelectAll();
+  void DeselectAll();
+  void InvertSelection();
+  void RemoveSelectedFromList();
+  void SortBy(int column, bool descending);
+  void SetNewNameColumnShown(bool shown);
+  // Applies the control `name` as if the user changed it.
+  void ControlChanged(std::string_view name, const std::string& value);
+  void StartFolderWatch();
+  void StopFolderWatch();
+
+  // --- ProgressView. ---
+  void ShowStatusText(StatusArea area, const QString& text) override;
+  void SetWindowCaption(const QString& text) override;
+  void ShowProgressBar(std::int64_t value, std::int64_t max) override;
+  void HideProgressBar() override;
+  void PrepareButtons(bool enable, bool keep_busy_indicator) override;
+
+  // Widgets, for tests and screenshots.
+  QTableView* file_view() const { return files_; }
+  QLineEdit* sample_field() const { return sample_; }
+  QGroupBox* sample_frame() const { return sample_frame_; }
+  QLabel* status_label() const { return status_; }
+  QPushButton* start_button() const { return start_; }
+  QTreeView* folder_view() const { return folders_; }
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  class FillLog : public FileListLog {
+   public:
+    explicit FillLog(const LogUndoEnv& env) : log_(env) {}
+    void WriteLogFileHeader() override { log_.WriteLogFileHeader(0); }
+    void WriteLogFileTool(std::string_view subject, std::string_view text) override {
+      log_.WriteLogFileTool(subject, text);
+    }
+
+   private:
+    RunLog log_;
+  };
+
+  void BuildWidgets();
+  void BuildMenus();
+  QWidget* BuildListPane();
+  QWidget* BuildLowerPane();
+  PipelineEnv SampleEnv();
+  void ViewSelectionToList();
+  void ListSelectionToView();
+  void RestartNewNames();
+  void NewNameSlice();
+  QString NewNameStatus() const;
+  void ShowActionOrder();
+  void OpenPatternPicker(QLineEdit* field);
+  void OpenPath(const std::string& path);
+  void FolderChosen(const QModelIndex& index);
+  void ScheduleRefill();
+  void UpdateFilterItems();
+
+  OptionStore& options_;
+  const MessageTable& messages_;
+  AppState app_;
+  LogUndoState log_state_;
+  SystemClock clock_;
+  RenameSettings settings_;
+  std::unique_ptr<QtInteraction> own_interaction_;
+  Interaction* interaction_ = nullptr;
+  LogUndoEnv env_;
+  FillLog fill_log_;
+  FileRowMediaSource media_;
+  FileList list_;
+  FileListLoader loader_;
+  NewNamePreview preview_;
+  bool new_names_shown_ = true;
+
+  FileListModel* model_ = nullptr;
+  QFileSystemModel* folder_model_ = nullptr;
+  QFileSystemWatcher* watcher_ = nullptr;
+  QTreeView* folders_ = nullptr;
+  QTableView* files_ = nullptr;
+  QComboBox* extension_ = nullptr;
+  QCheckBox* subfolders_ = nullptr;
+  RenameControls* controls_ = nullptr;
+  QGroupBox* sample_frame_ = nullptr;
+  QLineEdit* sample_ = nullptr;
+  QPushButton* start_ = nullptr;
+  QLabel* status_ = nullptr;
+  QProgressBar* progress_ = nullptr;
+  QTimer change_timer_;     // tmrChange
+  QTimer new_name_timer_;   // the slices of the "New name" column
+  QTimer new_name_restart_; // a change starts the column anew after a pause
+  QTimer refill_timer_;     // the folder watch's fill
+  SampleRate rate_ = SampleRate::kNormal;
+  int sample_length_ = 0;
+  bool syncing_selection_ = false;
+  std::unique_ptr<WindowHost> host_;
+};
+
+}  // namespace tarnwick::gui

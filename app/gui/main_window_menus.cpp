@@ -1,0 +1,87 @@
+// The menus of the main window, and closing it.
+#include <QCloseEvent>
+#include <QDesktopServices>
+#include <QMenuBar>
+#include <QTableView>
+#include <QUrl>
+
+#include "file_list_model.h"
+#include "filelist/column_headings.h"
+#include "main_window.h"
+#include "pattern_picker_dialog.h"
+#include "persist/log_file.h"
+#include "qt_text.h"
+#include "startup/startup.h"
+#include "window_host.h"
+
+namespace tarnwick::gui {
+
+StartupHost& MainWindow::host() {
+  if (!host_) host_ = std::make_unique<WindowHost>(*this);
+  return *host_;
+}
+
+void MainWindow::BuildMenus() {
+  QMenu* file = menuBar()->addMenu(Msg(messages_, "main.menu.file"));
+  file->addAction(Msg(messages_, "main.menu.load_settings"), QKeySequence::Open, this,
+                  &MainWindow::LoadSettings);
+  file->addAction(Msg(messages_, "main.menu.save_settings"), QKeySequence::Save, this,
+                  &MainWindow::SaveSettings);
+  file->addSeparator();
+  file->addAction(Msg(messages_, "main.button.exit"), QKeySequence::Quit, this, &QWidget::close);
+
+  QMenu* view = menuBar()->addMenu(Msg(messages_, "main.menu.view"));
+  view->addAction(Msg(messages_, "main.menu.refresh"), QKeySequence(Qt::Key_F5), this,
+                  &MainWindow::FillListFiles);
+  QAction* new_names = view->addAction(Msg(messages_, "main.menu.new_name_column"));
+  new_names->setCheckable(true);
+  new_names->setChecked(new_names_shown_);
+  connect(new_names, &QAction::toggled, this, &MainWindow::SetNewNameColumnShown);
+
+  QMenu* sort = menuBar()->addMenu(Msg(messages_, "main.menu.sort"));
+  QAction* descending = new QAction(Msg(messages_, "main.menu.sort_descending"), this);
+  descending->setCheckable(true);
+  const auto headings = ColumnHeadings(options_, messages_);
+  for (int column = 0; column <= file_column::kFolderName + 1; ++column) {
+    if (headings[column].empty()) continue;
+    sort->addAction(Q(headings[column]), this,
+                    [this, column, descending] { SortBy(column, descending->isChecked()); });
+  }
+  sort->addSeparator();
+  sort->addAction(descending);
+
+  QMenu* select = menuBar()->addMenu(Msg(messages_, "main.menu.select"));
+  select->addAction(Msg(messages_, "main.button.select_all"), QKeySequence::SelectAll, this,
+                    &MainWindow::SelectAll);
+  select->addAction(Msg(messages_, "main.button.deselect_all"), this, &MainWindow::DeselectAll);
+  select->addAction(Msg(messages_, "main.button.invert"), QKeySequence(Qt::CTRL | Qt::Key_I), this,
+                    &MainWindow::InvertSelection);
+  select->addSeparator();
+  select->addAction(Msg(messages_, "main.menu.remove_from_list"), this,
+                    &MainWindow::RemoveSelectedFromList);
+
+  QMenu* tools = menuBar()->addMenu(Msg(messages_, "main.menu.tools"));
+  tools->addAction(Msg(messages_, "main.menu.action_order"), this, &MainWindow::EditActionOrder);
+  tools->addAction(Msg(messages_, "main.menu.show_log"), QKeySequence(Qt::Key_F7), this,
+                   [this] { OpenPath(RunLog(env_).LogFilePath()); });
+  tools->addAction(Msg(messages_, "main.menu.undo_folder"), QKeySequence(Qt::Key_F8), this,
+                   [this] { OpenPath(log_state_.DefaultUndoFolder); });
+
+  QMenu* help = menuBar()->addMenu(Msg(messages_, "main.menu.help"));
+  help->addAction(Msg(messages_, "main.menu.placeholder_list"), this, [this] {
+    PatternPickerDialog dialog(messages_, {}, 0, this);
+    dialog.exec();
+  });
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  if (CloseMainWindow(env_, host())) {
+    event->ignore();
+    return;
+  }
+  change_timer_.stop();
+  new_name_timer_.stop();
+  event->accept();
+}
+
+}  // namespace tarnwick::gui

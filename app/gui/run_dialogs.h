@@ -1,0 +1,85 @@
+#pragma once
+
+#include <QDialog>
+
+#include "shell/interaction.h"
+#include "shell/message_table.h"
+
+class QCheckBox;
+class QLineEdit;
+
+namespace tarnwick::gui {
+
+// `frmStartRenamingMessageBox`: Rename, Test or Cancel (also Esc).
+class StartRenamingDialog : public QDialog {
+  Q_OBJECT
+
+ public:
+  StartRenamingDialog(const MessageTable& messages, QWidget* parent = nullptr);
+  StartRenamingChoice choice() const { return choice_; }
+
+ private:
+  StartRenamingChoice choice_ = StartRenamingChoice::kCancel;
+};
+
+// `frmFileExists`: another name, Skip, or Cancel the run. OK with a name that
+// differs from the proposal only by case is refused with a notice through
+// `notices`, and the dialogue stays open.
+class FileExistsDialog : public QDialog {
+  Q_OBJECT
+
+ public:
+  FileExistsDialog(const FileExistsRequest& request, const MessageTable& messages,
+                   Interaction& notices, QWidget* parent = nullptr);
+  const FileExistsAnswer& answer() const { return answer_; }
+  QLineEdit* name_field() const { return name_; }
+  QCheckBox* skip_all_box() const { return skip_all_; }
+
+  // The buttons, also for tests. Ok returns whether the dialogue closed.
+  bool Ok();
+  void Skip();
+  void CancelRun();
+
+ protected:
+  void reject() override { CancelRun(); }
+
+ private:
+  FileExistsRequest request_;
+  const MessageTable& messages_;
+  Interaction& notices_;
+  FileExistsAnswer answer_;
+  QLineEdit* name_ = nullptr;
+  QCheckBox* skip_all_ = nullptr;
+};
+
+// `frmRenameDialog`: the name of one file edited by hand during a run.
+class ManualRenameDialog : public QDialog {
+  Q_OBJECT
+
+ public:
+  ManualRenameDialog(const ManualRenameRequest& request, const MessageTable& messages,
+                     Interaction& questions, QWidget* parent = nullptr);
+  const ManualRenameAnswer& answer() const { return answer_; }
+  QLineEdit* name_field() const { return name_; }
+
+  bool Ok();
+  // Cancel asks first; returns whether the dialogue closed.
+  bool CancelRenaming();
+
+ protected:
+  void reject() override { CancelRenaming(); }
+
+ private:
+  void SelectByCursor();
+  ManualRenameCursor CursorAtClose() const;
+
+  ManualRenameRequest request_;
+  const MessageTable& messages_;
+  Interaction& questions_;
+  ManualRenameAnswer answer_;
+  QLineEdit* name_ = nullptr;
+  QCheckBox* select_all_ = nullptr;
+  QCheckBox* to_extension_ = nullptr;
+};
+
+}  // namespace tarnwick::gui

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QDialog>
+#include <vector>
+
+#include "shell/interaction_dialogs.h"
+#include "shell/message_table.h"
+
+class QTreeWidget;
+
+namespace tarnwick::gui {
+
+// `frmFileList`: the result list of a test run. Rows whose name stays are
+// blue, rows without a usable new name red and bold, renamed rows black.
+// The rows can go to the clipboard as "old path TAB new path" lines.
+class TestResultsDialog : public QDialog {
+  Q_OBJECT
+
+ public:
+  TestResultsDialog(const std::vector<TestResultRow>& rows, const MessageTable& messages,
+                    QWidget* parent = nullptr);
+  QTreeWidget* list() const { return list_; }
+  // The text the clipboard button copies.
+  QString ClipboardText() const;
+
+ private:
+  std::vector<TestResultRow> rows_;
+  QTreeWidget* list_ = nullptr;
+};
+
+}  // namespace tarnwick::gui

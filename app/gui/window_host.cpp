@@ -1,0 +1,52 @@
+#include "window_host.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+
+#include "core/start_rename.h"
+#include "main_window.h"
+#include "qt_text.h"
+#include "unattended_start.h"
+
+namespace tarnwick::gui {
+
+std::optional<ScreenSize> WindowHost::Screen() const {
+  const QScreen* screen = QGuiApplication::primaryScreen();
+  if (screen == nullptr) return std::nullopt;
+  const QRect area = screen->availableGeometry();
+  return ScreenSize{area.width(), area.height()};
+}
+
+void WindowHost::PlaceMainWindow(int top, int left) { window_.move(left, top); }
+
+bool WindowHost::MainWindowNormal() const {
+  return !window_.isMinimized() && !window_.isMaximized() && !window_.isFullScreen();
+}
+
+int WindowHost::MainWindowTop() const { return window_.y(); }
+int WindowHost::MainWindowLeft() const { return window_.x(); }
+
+void WindowHost::RefreshControlStates() {
+  window_.ShowSettings();
+}
+
+void WindowHost::FillListFiles() { window_.ShowFolder(Q(window_.app().CurrentPath)); }
+
+std::int64_t WindowHost::RowCount() const {
+  return static_cast<std::int64_t>(window_.list().size());
+}
+
+BatchRunOutcome WindowHost::RunBatch() {
+  window_.SelectAll();
+  window_.StartRenaming();
+  BatchRunOutcome outcome;
+  outcome.ran = true;
+  return outcome;
+}
+
+void WindowHost::ApplySampleRate() { window_.ApplySampleRate(); }
+void WindowHost::ShowMainWindow() { window_.show(); }
+void WindowHost::StartFolderWatch() { window_.StartFolderWatch(); }
+void WindowHost::StopFolderWatch() { window_.StopFolderWatch(); }
+
+}  // namespace tarnwick::gui
