@@ -56,9 +56,8 @@ bool NewNamesOption(const OptionStore& options) {
 MainWindow::MainWindow(OptionStore& options, const MessageTable& messages, Interaction* questions)
     : options_(options),
       messages_(messages),
-      own_interaction_(questions == nullptr
-                           ? std::make_unique<QtInteraction>(messages, this, this)
-                           : nullptr),
+      own_interaction_(questions == nullptr ? std::make_unique<QtInteraction>(messages, this, this)
+                                            : nullptr),
       interaction_(questions != nullptr ? questions : own_interaction_.get()),
       env_{options_, *interaction_, messages_, clock_, app_, log_state_},
       fill_log_(env_),
@@ -98,7 +97,8 @@ void MainWindow::BuildWidgets() {
   folders_ = new QTreeView(split);
   folders_->setObjectName("ctlExplorer1");
   folders_->setModel(folder_model_);
-  for (int column = 1; column < folder_model_->columnCount(); ++column) folders_->hideColumn(column);
+  for (int column = 1; column < folder_model_->columnCount(); ++column)
+    folders_->hideColumn(column);
   folders_->setHeaderHidden(true);
   connect(folders_->selectionModel(), &QItemSelectionModel::currentChanged, this,
           [this](const QModelIndex& index) { FolderChosen(index); });
@@ -176,8 +176,8 @@ QWidget* MainWindow::BuildListPane() {
   files_->installEventFilter(this);
   connect(files_->horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int column) {
     const auto sorted = list_.sort_columns();
-    const bool descending = !sorted.empty() && sorted.front().column == column &&
-                            !sorted.front().descending;
+    const bool descending =
+        !sorted.empty() && sorted.front().column == column && !sorted.front().descending;
     SortBy(column, descending);
   });
   connect(files_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
@@ -230,9 +230,10 @@ QWidget* MainWindow::BuildLowerPane() {
   sample_->setToolTip(Msg(messages_, "sample.char_positions_note"));
   sample_layout->addWidget(sample_);
   connect(sample_, &QLineEdit::selectionChanged, this, [this] {
-    const std::string status = SampleSelectionStatus(
-        messages_, S(sample_->text()), static_cast<std::size_t>(std::max(0, sample_->selectionStart())),
-        static_cast<std::size_t>(sample_->selectedText().size()));
+    const std::string status =
+        SampleSelectionStatus(messages_, S(sample_->text()),
+                              static_cast<std::size_t>(std::max(0, sample_->selectionStart())),
+                              static_cast<std::size_t>(sample_->selectedText().size()));
     if (!status.empty()) status_->setText(Q(status));
   });
   layout->addWidget(sample_frame_);
@@ -261,8 +262,11 @@ QWidget* MainWindow::BuildLowerPane() {
 }
 
 PipelineEnv MainWindow::SampleEnv() {
-  return PipelineEnv{app_,      settings_, list_,   options_, *interaction_, messages_,
-                     clock_,    MediaInfoProvider::None(), nullptr, list_.SelectedCount()};
+  return PipelineEnv{app_,          settings_,
+                     list_,         options_,
+                     *interaction_, messages_,
+                     clock_,        MediaInfoProvider::None(),
+                     nullptr,       list_.SelectedCount()};
 }
 
 // --- Controls. -------------------------------------------------------------
@@ -383,8 +387,8 @@ void MainWindow::ListSelectionToView() {
   const int last_column = model_->columnCount() - 1;
   int first = -1;
   for (int row = 0; row <= shown; ++row) {
-    const bool selected = row < shown && static_cast<std::size_t>(row) < rows.size() &&
-                          rows[row].selected;
+    const bool selected =
+        row < shown && static_cast<std::size_t>(row) < rows.size() && rows[row].selected;
     if (selected && first < 0) first = row;
     if (!selected && first >= 0) {
       selection.select(model_->index(first, 0), model_->index(row - 1, last_column));
@@ -476,7 +480,7 @@ void MainWindow::FinishNewNames() {
 QString MainWindow::NewNameStatus() const {
   if (!new_names_shown_ || preview_.collision_count() == 0) return {};
   return "    " + Q(FillMessage(messages_.Text("main.status.collisions"),
-                              {std::to_string(preview_.collision_count())}));
+                                {std::to_string(preview_.collision_count())}));
 }
 
 // --- The sample. ----------------------------------------------------------------
@@ -490,12 +494,11 @@ void MainWindow::ApplySampleRate() {
 
 void MainWindow::SampleTick(bool force) {
   ShowActionOrder();
-  setWindowTitle(Msg(messages_, "run.caption_program") + "  [" +
-                 Msg(messages_, "sample.status_file_count") + " " + QString::number(list_.size()) +
-                 ", " + Msg(messages_, "sample.status_selected") + " " +
-                 QString::number(list_.SelectedCount()) + ", " +
-                 Msg(messages_, "sample.status_path") + " " +
-                 Q(CompactPath(app_.CurrentPath, 55)) + "]");
+  setWindowTitle(
+      Msg(messages_, "run.caption_program") + "  [" + Msg(messages_, "sample.status_file_count") +
+      " " + QString::number(list_.size()) + ", " + Msg(messages_, "sample.status_selected") + " " +
+      QString::number(list_.SelectedCount()) + ", " + Msg(messages_, "sample.status_path") + " " +
+      Q(CompactPath(app_.CurrentPath, 55)) + "]");
   if (list_.empty()) {
     status_->setText(Msg(messages_, "sample.no_files_in_folder"));
     sample_->clear();
@@ -511,8 +514,7 @@ void MainWindow::SampleTick(bool force) {
   if (SampleKeepsItsText(conditions, rate_)) return;
   const std::vector<std::size_t> selected = list_.SelectedRows();
   const std::size_t row = selected.empty() ? 0 : selected.front();
-  const std::optional<Sample> sample =
-      ComputeSample(SampleEnv(), row, list_.Folder(row), rate_);
+  const std::optional<Sample> sample = ComputeSample(SampleEnv(), row, list_.Folder(row), rate_);
   if (!sample) return;
   const QString caption = Q(SampleFrameCaption(messages_, sample->text));
   if (sample_frame_->title() != caption) sample_frame_->setTitle(caption);
@@ -535,14 +537,14 @@ void MainWindow::StartRenaming() {
   change_timer_.stop();
   new_name_timer_.stop();
   ViewSelectionToList();
-  const RenameRunResult result = StartRename({app_, settings_, list_, options_, *interaction_,
-                                              messages_, clock_, log_state_,
-                                              MediaInfoProvider::None(), &loader_});
+  const RenameRunResult result =
+      StartRename({app_, settings_, list_, options_, *interaction_, messages_, clock_, log_state_,
+                   MediaInfoProvider::None(), &loader_});
   model_->Refresh();
   UpdateFilterItems();
   ListSelectionToView();
-  if (const std::vector<std::size_t> rows = list_.SelectedRows(); !rows.empty() &&
-      options_.GetOption("JumpToLastSelectedFile", "Options", "1") == "1") {
+  if (const std::vector<std::size_t> rows = list_.SelectedRows();
+      !rows.empty() && options_.GetOption("JumpToLastSelectedFile", "Options", "1") == "1") {
     files_->scrollTo(model_->index(static_cast<int>(rows.back()), 0));
   }
   if (result.stopped && !result.focus_field.empty()) {
@@ -563,7 +565,8 @@ void MainWindow::LoadSettings() {
 }
 
 void MainWindow::SaveSettings() {
-  SaveSettingsResult result = tarnwick::SaveSettings(env_, settings_, ProgramFoldersUnder(UserDataBaseFolder()).settings);
+  SaveSettingsResult result =
+      tarnwick::SaveSettings(env_, settings_, ProgramFoldersUnder(UserDataBaseFolder()).settings);
   if (result.outcome == SaveSettingsResult::Outcome::kSaved) app_.SettingsDirty = false;
   ShowSettings();
 }

@@ -17,8 +17,8 @@
 #include "persist/log_undo_state.h"
 #include "qt_interaction.h"
 #include "shell/app_state.h"
-#include "startup/startup_host.h"
 #include "shell/message_table.h"
+#include "startup/startup_host.h"
 
 class QCheckBox;
 class QComboBox;
@@ -168,10 +168,10 @@ class MainWindow : public QMainWindow, public ProgressView {
   QPushButton* start_ = nullptr;
   QLabel* status_ = nullptr;
   QProgressBar* progress_ = nullptr;
-  QTimer change_timer_;     // tmrChange
-  QTimer new_name_timer_;   // the slices of the "New name" column
-  QTimer new_name_restart_; // a change starts the column anew after a pause
-  QTimer refill_timer_;     // the folder watch's fill
+  QTimer change_timer_;      // tmrChange
+  QTimer new_name_timer_;    // the slices of the "New name" column
+  QTimer new_name_restart_;  // a change starts the column anew after a pause
+  QTimer refill_timer_;      // the folder watch's fill
   SampleRate rate_ = SampleRate::kNormal;
   int sample_length_ = 0;
   bool syncing_selection_ = false;

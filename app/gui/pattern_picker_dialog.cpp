@@ -57,8 +57,8 @@ PatternPickerDialog::PatternPickerDialog(const MessageTable& messages,
   const QString in_use = Msg(messages, "catalogue.selected_in_main_dialogue");
   for (std::size_t i = 0; i < picker_.rows().size(); ++i) {
     const CatalogueRow& row = picker_.rows()[i];
-    auto* item = new QTreeWidgetItem(
-        {Q(picker_.RowText(i, S(in_use))), Q(row.sample), Q(row.description)});
+    auto* item =
+        new QTreeWidgetItem({Q(picker_.RowText(i, S(in_use))), Q(row.sample), Q(row.description)});
     if (picker_.IsInUse(i)) {
       QFont bold = item->font(0);
       bold.setBold(true);

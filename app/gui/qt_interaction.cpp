@@ -58,7 +58,9 @@ std::vector<ButtonChoice> ButtonsOf(Buttons buttons) {
 QString FilterText(const std::vector<FileFilter>& filters) {
   QStringList parts;
   for (const FileFilter& filter : filters) {
-    parts << (Q(filter.description).contains('(') ? Q(filter.description) : Q(filter.description) + " (" + Q(filter.pattern) + ")");
+    parts << (Q(filter.description).contains('(')
+                  ? Q(filter.description)
+                  : Q(filter.description) + " (" + Q(filter.pattern) + ")");
   }
   return parts.join(";;");
 }
@@ -71,7 +73,8 @@ QtInteraction::QtInteraction(const MessageTable& messages, QWidget* window, Prog
 }
 
 bool QtInteraction::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+  if (event->type() == QEvent::KeyPress &&
+      static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
     esc_pressed_ = true;
   }
   return QObject::eventFilter(watched, event);
@@ -84,7 +87,8 @@ Answer QtInteraction::ShowMessage(const MessageBoxRequest& request) {
   const std::vector<ButtonChoice> choices = ButtonsOf(request.buttons);
   for (const ButtonChoice& choice : choices) box.addButton(choice.button);
   box.exec();
-  const auto pressed = static_cast<QMessageBox::StandardButton>(box.standardButton(box.clickedButton()));
+  const auto pressed =
+      static_cast<QMessageBox::StandardButton>(box.standardButton(box.clickedButton()));
   for (const ButtonChoice& choice : choices) {
     if (choice.button == pressed) return choice.answer;
   }
@@ -131,9 +135,8 @@ std::optional<std::string> QtInteraction::ChooseFile(const FileChooserRequest& r
   if (!request.preset_name.empty()) start += "/" + Q(request.preset_name);
   const QString filters = FilterText(request.filters);
   const QString chosen =
-      request.for_saving
-          ? QFileDialog::getSaveFileName(window_, Q(request.title), start, filters)
-          : QFileDialog::getOpenFileName(window_, Q(request.title), start, filters);
+      request.for_saving ? QFileDialog::getSaveFileName(window_, Q(request.title), start, filters)
+                         : QFileDialog::getOpenFileName(window_, Q(request.title), start, filters);
   if (chosen.isEmpty()) return std::nullopt;
   return S(chosen);
 }

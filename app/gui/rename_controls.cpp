@@ -46,7 +46,8 @@ RenameControls::RenameControls(const MessageTable& messages, QWidget* parent)
   auto line = [&](const char* tick, int code, std::vector<QWidget*> widgets) {
     actions->addWidget(Tick(tick, Q(ActionDisplayName(code, messages))), row, 0);
     auto* box = new QHBoxLayout;
-    for (QWidget* widget : widgets) box->addWidget(widget, qobject_cast<QLineEdit*>(widget) ? 1 : 0);
+    for (QWidget* widget : widgets)
+      box->addWidget(widget, qobject_cast<QLineEdit*>(widget) ? 1 : 0);
     actions->addLayout(box, row, 1);
     EnableWith(tick, widgets);
     ++row;

@@ -28,9 +28,11 @@ StartRenamingDialog::StartRenamingDialog(const MessageTable& messages, QWidget* 
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(Note(Msg(messages, "run.start_note"), this));
   auto* buttons = new QDialogButtonBox(this);
-  auto* rename = buttons->addButton(Msg(messages, "run.button_rename"), QDialogButtonBox::AcceptRole);
+  auto* rename =
+      buttons->addButton(Msg(messages, "run.button_rename"), QDialogButtonBox::AcceptRole);
   auto* test = buttons->addButton(Msg(messages, "run.button_test"), QDialogButtonBox::ActionRole);
-  auto* cancel = buttons->addButton(Msg(messages, "run.button_cancel"), QDialogButtonBox::RejectRole);
+  auto* cancel =
+      buttons->addButton(Msg(messages, "run.button_cancel"), QDialogButtonBox::RejectRole);
   rename->setObjectName("cmdStart");
   test->setObjectName("cmdTest");
   cancel->setObjectName("cmdCancel");
@@ -65,10 +67,12 @@ FileExistsDialog::FileExistsDialog(const FileExistsRequest& request, const Messa
   skip_all_->setChecked(request.skip_all_others);
   layout->addWidget(skip_all_);
   auto* buttons = new QDialogButtonBox(this);
-  auto* ok = buttons->addButton(Msg(messages, "file_exists.button_ok"), QDialogButtonBox::AcceptRole);
-  auto* skip = buttons->addButton(Msg(messages, "file_exists.button_skip"),
-                                  QDialogButtonBox::ActionRole);
-  auto* cancel = buttons->addButton(Msg(messages, "run.button_cancel"), QDialogButtonBox::RejectRole);
+  auto* ok =
+      buttons->addButton(Msg(messages, "file_exists.button_ok"), QDialogButtonBox::AcceptRole);
+  auto* skip =
+      buttons->addButton(Msg(messages, "file_exists.button_skip"), QDialogButtonBox::ActionRole);
+  auto* cancel =
+      buttons->addButton(Msg(messages, "run.button_cancel"), QDialogButtonBox::RejectRole);
   ok->setDefault(true);
   layout->addWidget(buttons);
   connect(ok, &QPushButton::clicked, this, [this] { Ok(); });
@@ -132,8 +136,10 @@ ManualRenameDialog::ManualRenameDialog(const ManualRenameRequest& request,
   to_extension_->setChecked(request.cursor.to_extension);
   layout->addWidget(to_extension_);
   auto* buttons = new QDialogButtonBox(this);
-  auto* ok = buttons->addButton(Msg(messages, "file_exists.button_ok"), QDialogButtonBox::AcceptRole);
-  auto* cancel = buttons->addButton(Msg(messages, "run.button_cancel"), QDialogButtonBox::RejectRole);
+  auto* ok =
+      buttons->addButton(Msg(messages, "file_exists.button_ok"), QDialogButtonBox::AcceptRole);
+  auto* cancel =
+      buttons->addButton(Msg(messages, "run.button_cancel"), QDialogButtonBox::RejectRole);
   ok->setDefault(true);
   layout->addWidget(buttons);
   connect(to_original, &QPushButton::clicked, this,
@@ -186,10 +192,10 @@ bool ManualRenameDialog::Ok() {
 }
 
 bool ManualRenameDialog::CancelRenaming() {
-  const Answer answer = questions_.ShowMessage(
-      {std::string(messages_.Text("manual.title_cancel_action")),
-       std::string(messages_.Text("manual.really_cancel")), Buttons::kYesNo, MessageIcon::kQuestion,
-       Topic::kConfirmCancelRename});
+  const Answer answer =
+      questions_.ShowMessage({std::string(messages_.Text("manual.title_cancel_action")),
+                              std::string(messages_.Text("manual.really_cancel")), Buttons::kYesNo,
+                              MessageIcon::kQuestion, Topic::kConfirmCancelRename});
   if (answer != Answer::kYes) return false;
   answer_ = {true, request_.original_name, CursorAtClose()};
   QDialog::reject();

@@ -33,8 +33,8 @@ SaveSettingsDialog::SaveSettingsDialog(const SaveSettingsRequest& request,
   save_path_->setChecked(request.save_path);
   layout->addWidget(save_path_);
   auto* buttons = new QDialogButtonBox(this);
-  auto* save = buttons->addButton(Msg(messages, "settings_file.button_save"),
-                                  QDialogButtonBox::AcceptRole);
+  auto* save =
+      buttons->addButton(Msg(messages, "settings_file.button_save"), QDialogButtonBox::AcceptRole);
   buttons->addButton(Msg(messages, "settings_file.button_cancel"), QDialogButtonBox::RejectRole);
   save->setDefault(true);
   layout->addWidget(buttons);
@@ -46,14 +46,17 @@ SaveSettingsDialog::SaveSettingsDialog(const SaveSettingsRequest& request,
 void SaveSettingsDialog::Browse() {
   QStringList filters;
   for (const FileFilter& filter : request_.chooser.filters) {
-    filters << (Q(filter.description).contains('(') ? Q(filter.description) : Q(filter.description) + " (" + Q(filter.pattern) + ")");
+    filters << (Q(filter.description).contains('(')
+                    ? Q(filter.description)
+                    : Q(filter.description) + " (" + Q(filter.pattern) + ")");
   }
   const QString start = path_->text().isEmpty() ? Q(request_.chooser.start_folder) : path_->text();
   QString chosen =
       QFileDialog::getSaveFileName(this, Q(request_.chooser.title), start, filters.join(";;"));
   if (chosen.isEmpty()) return;
   const QString extension = "." + Q(request_.chooser.default_extension);
-  if (!request_.chooser.default_extension.empty() && !chosen.endsWith(extension, Qt::CaseInsensitive)) {
+  if (!request_.chooser.default_extension.empty() &&
+      !chosen.endsWith(extension, Qt::CaseInsensitive)) {
     chosen += extension;
   }
   path_->setText(chosen);

@@ -66,9 +66,9 @@ void SortOrderDialog::ShowRows() {
   list_->clear();
   for (std::size_t row = 0; row < static_cast<std::size_t>(kActionCount); ++row) {
     const int code = editor_.CurrentAction(row);
-    auto* item = new QTreeWidgetItem(
-        {QString::number(row + 1), Q(ActionDisplayName(code, messages_)),
-         Q(ActionDisplayName(static_cast<int>(row) + 1, messages_))});
+    auto* item =
+        new QTreeWidgetItem({QString::number(row + 1), Q(ActionDisplayName(code, messages_)),
+                             Q(ActionDisplayName(static_cast<int>(row) + 1, messages_))});
     item->setData(0, Qt::UserRole, code);
     if (editor_.Changed(row)) {
       QFont bold = item->font(1);

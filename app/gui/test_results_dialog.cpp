@@ -60,18 +60,19 @@ TestResultsDialog::TestResultsDialog(const std::vector<TestResultRow>& rows,
   list_->addTopLevelItems(items);
   list_->header()->resizeSections(QHeaderView::ResizeToContents);
   layout->addWidget(list_);
-  auto* legend = new QLabel(Msg(messages, "result_list.legend_unchanged") + "   " +
-                                Msg(messages, "result_list.legend_possible_error") + "   " +
-                                Msg(messages, "result_list.legend_renamed") + "   " +
-                                Msg(messages, "filelist.label_files") + " " +
-                                QString::number(rows.size()),
-                            this);
+  auto* legend =
+      new QLabel(Msg(messages, "result_list.legend_unchanged") + "   " +
+                     Msg(messages, "result_list.legend_possible_error") + "   " +
+                     Msg(messages, "result_list.legend_renamed") + "   " +
+                     Msg(messages, "filelist.label_files") + " " + QString::number(rows.size()),
+                 this);
   legend->setObjectName("lblFileCount");
   layout->addWidget(legend);
   auto* buttons = new QDialogButtonBox(this);
   auto* copy = buttons->addButton(Msg(messages, "result_list.copy_to_clipboard"),
                                   QDialogButtonBox::ActionRole);
-  auto* close = buttons->addButton(Msg(messages, "result_list.close"), QDialogButtonBox::AcceptRole);
+  auto* close =
+      buttons->addButton(Msg(messages, "result_list.close"), QDialogButtonBox::AcceptRole);
   layout->addWidget(buttons);
   connect(copy, &QPushButton::clicked, this,
           [this] { QApplication::clipboard()->setText(ClipboardText()); });
@@ -81,8 +82,8 @@ TestResultsDialog::TestResultsDialog(const std::vector<TestResultRow>& rows,
 QString TestResultsDialog::ClipboardText() const {
   QString text;
   for (const TestResultRow& row : rows_) {
-    text += JoinPath(row.folder, row.present_name) + '\t' + JoinPath(row.folder, row.new_name) +
-            "\r\n";
+    text +=
+        JoinPath(row.folder, row.present_name) + '\t' + JoinPath(row.folder, row.new_name) + "\r\n";
   }
   return text;
 }

@@ -26,9 +26,7 @@ bool WindowHost::MainWindowNormal() const {
 int WindowHost::MainWindowTop() const { return window_.y(); }
 int WindowHost::MainWindowLeft() const { return window_.x(); }
 
-void WindowHost::RefreshControlStates() {
-  window_.ShowSettings();
-}
+void WindowHost::RefreshControlStates() { window_.ShowSettings(); }
 
 void WindowHost::FillListFiles() { window_.ShowFolder(Q(window_.app().CurrentPath)); }
 

@@ -1,0 +1,167 @@
+// The main window driven as a user would: a folder, ticks and fields, the
+// sample, the "New name" column, a run with scripted answers.
+#include "main_window.h"
+
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTableView>
+#include <QTest>
+#include <filesystem>
+
+#include "file_list_model.h"
+#include "gui/gui_test_support.h"
+#include "persist/option_store.h"
+#include "rename_controls.h"
+#include "shell/scripted_interaction.h"
+#include "support/temp_dir.h"
+
+namespace tarnwick::testing {
+namespace {
+
+using gui::FileListModel;
+using gui::MainWindow;
+
+class MainWindowTest : public GuiTest {
+ protected:
+  MainWindowTest() : options(config.path() / "Tarnwick.ini") {
+    options.SaveOption("WriteUndoFile", "Options", "0");
+    options.SaveOption("WriteLogFile", "Options", "0");
+    for (const char* name : {"a.txt", "b.txt", "c.txt"}) dir.WriteFile(name, name);
+    window =
+        std::make_unique<MainWindow>(options, MessageTable::Get(Language::kEnglish), &interaction);
+    window->resize(1100, 760);
+    window->show();
+    window->ShowFolder(QString::fromStdString(dir.str()));
+  }
+
+  template <typename T>
+  T* Control(const char* name) {
+    T* control = window->findChild<T*>(name);
+    EXPECT_NE(control, nullptr) << name;
+    return control;
+  }
+
+  // A click on the tick's box, where a user clicks.
+  void Tick(const char* name) {
+    QCheckBox* box = Control<QCheckBox>(name);
+    QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(6, box->height() / 2));
+  }
+
+  void Type(const char* field, const char* text) {
+    QLineEdit* edit = Control<QLineEdit>(field);
+    edit->setFocus();
+    QTest::keyClicks(edit, text);
+  }
+
+  QString CellText(int row, int column) {
+    const auto* model = window->file_view()->model();
+    return model->data(model->index(row, column)).toString();
+  }
+
+  bool Exists(const std::string& name) { return std::filesystem::exists(dir.path() / name); }
+
+  TempDir dir;
+  TempDir config;
+  OptionStore options;
+  ScriptedInteraction interaction;
+  std::unique_ptr<MainWindow> window;
+};
+
+TEST_F(MainWindowTest, PrefixAndNumberingShowInTheSampleAndTheRunRenames) {
+  ASSERT_EQ(window->list().size(), 3u);
+  EXPECT_EQ(CellText(0, 0), "a.txt");
+  EXPECT_TRUE(window->file_view()->isColumnHidden(file_column::kSizeBytes));
+  EXPECT_TRUE(window->file_view()->isColumnHidden(file_column::kExtension));
+
+  // The fields follow their ticks.
+  EXPECT_FALSE(Control<QLineEdit>("txtPrefix")->isEnabled());
+  Tick("chkPrefix");
+  EXPECT_TRUE(Control<QLineEdit>("txtPrefix")->isEnabled());
+  Type("txtPrefix", "IMG_");
+  Tick("chkNumbers");
+  Control<QLineEdit>("txtStartNumber")->clear();
+  Type("txtStartNumber", "07");
+  Type("txtLimiter", "-");
+  EXPECT_EQ(window->settings().txtPrefix, "IMG_");
+  EXPECT_EQ(window->settings().chkNumbers, 1);
+  EXPECT_TRUE(window->app().SettingsDirty);
+  window->file_view()->setFocus();  // leave the fields: the sample may change
+
+  window->file_view()->selectRow(1);
+  window->activateWindow();
+  ASSERT_TRUE(WaitFor([&] { return window->sample_field()->text() == "07-IMG_b.txt"; }))
+      << window->sample_field()->text().toStdString();
+  EXPECT_EQ(window->sample_frame()->title(), "Sample   [Length: 12 chars]");
+
+  window->SelectAll();
+  window->FinishNewNames();
+  EXPECT_EQ(CellText(2, FileListModel::kNewNameColumn), "09-IMG_c.txt");
+  EXPECT_EQ(window->new_names().collision_count(), 0u);
+
+  interaction.Then(StartRenamingChoice::kRename);
+  interaction.SetDefault(QuestionKind::kMessageBox, Answer::kOk);
+  QTest::mouseClick(window->start_button(), Qt::LeftButton);
+  EXPECT_TRUE(Exists("07-IMG_a.txt"));
+  EXPECT_TRUE(Exists("08-IMG_b.txt"));
+  EXPECT_TRUE(Exists("09-IMG_c.txt"));
+  EXPECT_FALSE(Exists("a.txt"));
+  EXPECT_EQ(dir.ReadFile("08-IMG_b.txt"), "b.txt");
+  EXPECT_TRUE(interaction.failures().empty());
+  // The list was filled again with the new names.
+  ASSERT_EQ(window->file_view()->model()->rowCount(), 3);
+  EXPECT_EQ(CellText(0, 0), "07-IMG_a.txt");
+  EXPECT_TRUE(window->start_button()->isEnabled());
+}
+
+TEST_F(MainWindowTest, NewNamesThatCollideAreCountedAndTheTestModeTouchesNothing) {
+  dir.WriteFile("same.txt", "taken");
+  window->FillListFiles();
+  Tick("chkCompleteName");
+  Type("txtCompleteName", "same");
+  window->SelectAll();
+  window->FinishNewNames();
+  // a, b, c go to same.txt, taken on disk and by each other; same.txt keeps
+  // its name but shares the target with the three.
+  EXPECT_EQ(window->new_names().collision_count(), 4u);
+  const QVariant colour = window->file_view()->model()->data(
+      window->file_view()->model()->index(0, FileListModel::kNewNameColumn), Qt::ForegroundRole);
+  EXPECT_EQ(colour.value<QBrush>().color(), QColor(Qt::red));
+
+  interaction.Then(StartRenamingChoice::kTest);
+  interaction.SetDefault(QuestionKind::kMessageBox, Answer::kNo);
+  interaction.SetDefault(QuestionKind::kFileExists, FileExistsAnswer{FileExistsChoice::kSkip});
+  window->StartRenaming();
+  EXPECT_TRUE(Exists("a.txt"));
+  EXPECT_EQ(dir.ReadFile("same.txt"), "taken");
+  EXPECT_TRUE(interaction.failures().empty());
+}
+
+TEST_F(MainWindowTest, DigitFieldsRefuseOtherKeysAndTheSpinnerKeepsItsZeros) {
+  Tick("chkCutLeft");
+  Type("txtLeftCut", "1x2");
+  EXPECT_EQ(Control<QLineEdit>("txtLeftCut")->text(), "12");
+  EXPECT_EQ(window->settings().txtLeftCut, "12");
+  EXPECT_EQ(gui::StepNumberField("009", 1), "010");
+  EXPECT_EQ(gui::StepNumberField("5", -1), "4");
+  EXPECT_EQ(gui::StepNumberField("0", -1), "0");
+  EXPECT_EQ(gui::StepNumberField("abc", 1), "1");
+}
+
+TEST_F(MainWindowTest, SelectionSortingAndRemovalWorkOnTheCoreList) {
+  window->SortBy(file_column::kName, true);
+  EXPECT_EQ(CellText(0, 0), "c.txt");
+  window->file_view()->selectRow(0);
+  EXPECT_TRUE(window->list().IsSelected(0));
+  window->InvertSelection();
+  EXPECT_EQ(window->list().SelectedCount(), 2u);
+  EXPECT_EQ(window->file_view()->selectionModel()->selectedRows().size(), 2);
+  window->RemoveSelectedFromList();
+  EXPECT_EQ(window->file_view()->model()->rowCount(), 1);
+  EXPECT_EQ(CellText(0, 0), "c.txt");
+  EXPECT_TRUE(Exists("a.txt"));  // removed from the list only
+}
+
+}  // namespace
+}  // namespace tarnwick::testing
