@@ -3,6 +3,10 @@
 # this runs the unattended demonstration on a generated sample folder.
 set -euo pipefail
 root="$(cd "$(dirname "$0")/.." && pwd)"
+# With a display: the desktop window on the home folder.
+if [ -n "${DISPLAY:-}" ] || [ -n "${WAYLAND_DISPLAY:-}" ]; then
+  exec "$root/build/release/app/gui/tarnwick" "$HOME"
+fi
 cli="$root/build/release/app/cli/tarnwick-cli"
 demo="$(mktemp -d /tmp/tarnwick-demo-XXXXXX)"
 export XDG_CONFIG_HOME="$demo/config" XDG_DATA_HOME="$demo/data"

@@ -19,6 +19,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QSplashScreen>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QTableView>
@@ -63,6 +64,7 @@ MainWindow::MainWindow(OptionStore& options, const MessageTable& messages, Inter
       fill_log_(env_),
       loader_(FileListContext{options_, app_, *interaction_, fill_log_, media_, messages_}) {
   setObjectName("frmMain");
+  setAcceptDrops(true);
   setWindowTitle(Msg(messages, "run.caption_program"));
   setWindowIcon(QIcon::fromTheme("tarnwick"));
   new_names_shown_ = NewNamesOption(options_);
@@ -107,12 +109,15 @@ void MainWindow::BuildWidgets() {
   auto* right = new QSplitter(Qt::Vertical, split);
   right->addWidget(BuildListPane());
   right->addWidget(BuildLowerPane());
-  right->setStretchFactor(0, 3);
-  right->setStretchFactor(1, 2);
+  // The list gives way first: the renaming controls keep their height.
+  right->setStretchFactor(0, 1);
+  right->setStretchFactor(1, 0);
+  right->setCollapsible(1, false);
   split->addWidget(right);
   split->setStretchFactor(0, 1);
   split->setStretchFactor(1, 4);
-  split->setSizes({230, 970});
+  split->setSizes({200, 1000});
+  folders_->setMinimumWidth(140);
   setCentralWidget(split);
 
   status_ = new QLabel(this);
@@ -215,6 +220,7 @@ QWidget* MainWindow::BuildLowerPane() {
   scroll->setWidget(controls_);
   scroll->setWidgetResizable(true);
   scroll->setFrameShape(QFrame::NoFrame);
+  scroll->setMinimumHeight(controls_->sizeHint().height());
   frame_layout->addWidget(scroll);
   layout->addWidget(settings_frame, 1);
   for (QLineEdit* field : controls_->text_fields()) field->installEventFilter(this);
@@ -446,6 +452,10 @@ void MainWindow::SetNewNameColumnShown(bool shown) {
   new_names_shown_ = shown;
   options_.SaveOption("ShowNewNames", "Options", shown ? "1" : "0");
   files_->setColumnHidden(FileListModel::kNewNameColumn, !shown);
+  if (new_names_action_ != nullptr) {
+    const QSignalBlocker block(new_names_action_);
+    new_names_action_->setChecked(shown);
+  }
   RestartNewNames();
 }
 
@@ -574,6 +584,10 @@ void MainWindow::SaveSettings() {
 // --- ProgressView. ------------------------------------------------------------------
 
 void MainWindow::ShowStatusText(StatusArea area, const QString& text) {
+  if (area == StatusArea::kSplash && splash_ != nullptr) {
+    splash_->showMessage(text, Qt::AlignBottom | Qt::AlignHCenter);
+    return;
+  }
   if (area == StatusArea::kSampleFrame) {
     sample_frame_->setTitle(text);
   } else {

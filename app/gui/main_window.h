@@ -21,6 +21,7 @@
 #include "startup/startup_host.h"
 
 class QCheckBox;
+class QSplashScreen;
 class QComboBox;
 class QFileSystemModel;
 class QFileSystemWatcher;
@@ -79,6 +80,7 @@ class MainWindow : public QMainWindow, public ProgressView {
   void LoadSettings();
   void SaveSettings();
   void EditActionOrder();
+  void EditOptions();
   void SelectAll();
   void DeselectAll();
   void InvertSelection();
@@ -89,6 +91,10 @@ class MainWindow : public QMainWindow, public ProgressView {
   void ControlChanged(std::string_view name, const std::string& value);
   void StartFolderWatch();
   void StopFolderWatch();
+
+  // The start window while start-up runs.
+  void ShowSplash();
+  void CloseSplash();
 
   // --- ProgressView. ---
   void ShowStatusText(StatusArea area, const QString& text) override;
@@ -107,6 +113,8 @@ class MainWindow : public QMainWindow, public ProgressView {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
@@ -176,6 +184,8 @@ class MainWindow : public QMainWindow, public ProgressView {
   int sample_length_ = 0;
   bool syncing_selection_ = false;
   std::unique_ptr<WindowHost> host_;
+  QSplashScreen* splash_ = nullptr;
+  QAction* new_names_action_ = nullptr;
 };
 
 }  // namespace tarnwick::gui

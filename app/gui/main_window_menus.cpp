@@ -5,11 +5,14 @@
 #include <QTableView>
 #include <QUrl>
 
+#include "desktop_integration.h"
 #include "file_list_model.h"
 #include "filelist/column_headings.h"
 #include "main_window.h"
+#include "options_dialog.h"
 #include "pattern_picker_dialog.h"
 #include "persist/log_file.h"
+#include "persist/option_store.h"
 #include "qt_text.h"
 #include "startup/startup.h"
 #include "window_host.h"
@@ -36,6 +39,7 @@ void MainWindow::BuildMenus() {
   QAction* new_names = view->addAction(Msg(messages_, "main.menu.new_name_column"));
   new_names->setCheckable(true);
   new_names->setChecked(new_names_shown_);
+  new_names_action_ = new_names;
   connect(new_names, &QAction::toggled, this, &MainWindow::SetNewNameColumnShown);
 
   QMenu* sort = menuBar()->addMenu(Msg(messages_, "main.menu.sort"));
@@ -61,6 +65,7 @@ void MainWindow::BuildMenus() {
                     &MainWindow::RemoveSelectedFromList);
 
   QMenu* tools = menuBar()->addMenu(Msg(messages_, "main.menu.tools"));
+  tools->addAction(Msg(messages_, "main.menu.options") + " ...", this, &MainWindow::EditOptions);
   tools->addAction(Msg(messages_, "main.menu.action_order"), this, &MainWindow::EditActionOrder);
   tools->addAction(Msg(messages_, "main.menu.show_log"), QKeySequence(Qt::Key_F7), this,
                    [this] { OpenPath(RunLog(env_).LogFilePath()); });
@@ -72,6 +77,23 @@ void MainWindow::BuildMenus() {
     PatternPickerDialog dialog(messages_, {}, 0, this);
     dialog.exec();
   });
+}
+
+void MainWindow::EditOptions() {
+  const std::string context_menu = options_.GetOption("ContextMenu", "Options", "0");
+  const std::map<std::string, std::string> defaults = {
+      {"LogFilePath", log_state_.DefaultLogFolder + "/Tarnwick.log"},
+      {"UndoFilePath", log_state_.DefaultUndoFolder}};
+  OptionsDialog dialog(options_, messages_, *interaction_, defaults, this);
+  if (dialog.exec() != QDialog::Accepted) return;
+  const std::string now = options_.GetOption("ContextMenu", "Options", "0");
+  if (now != context_menu) {
+    SetFolderAction(now == "1", std::string(messages_.Text("options.context_menu_entry")));
+  }
+  model_->SetHeadings(ColumnHeadings(options_, messages_),
+                      std::string(messages_.Text("result_list.column_new_name")));
+  SetNewNameColumnShown(options_.GetOption("ShowNewNames", "Options", "1") != "0");
+  FillListFiles();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -26,6 +26,10 @@ bool WindowHost::MainWindowNormal() const {
 int WindowHost::MainWindowTop() const { return window_.y(); }
 int WindowHost::MainWindowLeft() const { return window_.x(); }
 
+void WindowHost::ShowSplash() { window_.ShowSplash(); }
+void WindowHost::HideSplash() { window_.CloseSplash(); }
+void WindowHost::UnloadSplash() { window_.CloseSplash(); }
+
 void WindowHost::RefreshControlStates() { window_.ShowSettings(); }
 
 void WindowHost::FillListFiles() { window_.ShowFolder(Q(window_.app().CurrentPath)); }

@@ -17,6 +17,9 @@ class WindowHost : public StartupHost {
   bool MainWindowNormal() const override;
   int MainWindowTop() const override;
   int MainWindowLeft() const override;
+  void ShowSplash() override;
+  void HideSplash() override;
+  void UnloadSplash() override;
   void RefreshControlStates() override;
   void FillListFiles() override;
   std::int64_t RowCount() const override;
