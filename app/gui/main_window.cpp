@@ -76,6 +76,9 @@ MainWindow::MainWindow(OptionStore& options, const MessageTable& messages, Inter
   new_name_restart_.setSingleShot(true);
   new_name_restart_.setInterval(250);
   connect(&new_name_restart_, &QTimer::timeout, this, &MainWindow::RestartNewNames);
+  status_flush_.setSingleShot(true);
+  status_flush_.setInterval(50);
+  connect(&status_flush_, &QTimer::timeout, this, &MainWindow::FlushStatus);
   refill_timer_.setSingleShot(true);
   refill_timer_.setInterval(700);
   connect(&refill_timer_, &QTimer::timeout, this, [this] {
@@ -503,6 +506,10 @@ void MainWindow::ApplySampleRate() {
 }
 
 void MainWindow::SampleTick(bool force) {
+  if (status_flush_.isActive()) {
+    status_flush_.stop();
+    FlushStatus();
+  }
   ShowActionOrder();
   setWindowTitle(
       Msg(messages_, "run.caption_program") + "  [" + Msg(messages_, "sample.status_file_count") +
@@ -588,11 +595,23 @@ void MainWindow::ShowStatusText(StatusArea area, const QString& text) {
     splash_->showMessage(text, Qt::AlignBottom | Qt::AlignHCenter);
     return;
   }
-  if (area == StatusArea::kSampleFrame) {
-    sample_frame_->setTitle(text);
-  } else {
-    status_->setText(text);
+  // A fill writes a status per file: labels are written at most every few
+  // milliseconds, and the last text of a burst a moment later.
+  QString& pending = area == StatusArea::kSampleFrame ? pending_frame_ : pending_status_;
+  pending = text;
+  if (status_clock_.isValid() && status_clock_.elapsed() < 40) {
+    if (!status_flush_.isActive()) status_flush_.start();
+    return;
   }
+  FlushStatus();
+}
+
+void MainWindow::FlushStatus() {
+  status_clock_.start();
+  if (!pending_status_.isNull()) status_->setText(pending_status_);
+  if (!pending_frame_.isNull()) sample_frame_->setTitle(pending_frame_);
+  pending_status_ = QString();
+  pending_frame_ = QString();
 }
 
 void MainWindow::SetWindowCaption(const QString& text) { setWindowTitle(text); }
@@ -600,9 +619,14 @@ void MainWindow::SetWindowCaption(const QString& text) { setWindowTitle(text); }
 void MainWindow::ShowProgressBar(std::int64_t value, std::int64_t max) {
   // The bar counts in int; big lists are scaled.
   const double scale = max > 1000000 ? 1000000.0 / static_cast<double>(max) : 1.0;
-  progress_->setRange(0, static_cast<int>(static_cast<double>(max) * scale));
-  progress_->setValue(static_cast<int>(static_cast<double>(value) * scale));
-  progress_->show();
+  const int top = static_cast<int>(static_cast<double>(max) * scale);
+  const int now = static_cast<int>(static_cast<double>(value) * scale);
+  if (progress_->maximum() != top) progress_->setRange(0, top);
+  // Only steps the eye can see are drawn.
+  if (std::abs(now - progress_->value()) * 200 >= std::max(top, 1) || now == top) {
+    progress_->setValue(now);
+  }
+  if (!progress_->isVisible()) progress_->show();
 }
 
 void MainWindow::HideProgressBar() { progress_->hide(); }

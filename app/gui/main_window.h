@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QMainWindow>
 #include <QTimer>
 #include <memory>
@@ -144,7 +145,7 @@ class MainWindow : public QMainWindow, public ProgressView {
   void OpenPatternPicker(QLineEdit* field);
   void OpenPath(const std::string& path);
   void FolderChosen(const QModelIndex& index);
-  void ScheduleRefill();
+  void FlushStatus();
   void UpdateFilterItems();
 
   OptionStore& options_;
@@ -180,6 +181,10 @@ class MainWindow : public QMainWindow, public ProgressView {
   QTimer new_name_timer_;    // the slices of the "New name" column
   QTimer new_name_restart_;  // a change starts the column anew after a pause
   QTimer refill_timer_;      // the folder watch's fill
+  QTimer status_flush_;
+  QElapsedTimer status_clock_;
+  QString pending_status_;
+  QString pending_frame_;
   SampleRate rate_ = SampleRate::kNormal;
   int sample_length_ = 0;
   bool syncing_selection_ = false;

@@ -70,6 +70,14 @@ QString FilterText(const std::vector<FileFilter>& filters) {
 QtInteraction::QtInteraction(const MessageTable& messages, QWidget* window, ProgressView* view)
     : messages_(messages), window_(window), view_(view) {
   qApp->installEventFilter(this);
+  since_events_.start();
+}
+
+void QtInteraction::HandleEvents() {
+  constexpr qint64 kEventInterval = 40;  // ms
+  if (since_events_.elapsed() < kEventInterval) return;
+  QCoreApplication::processEvents();
+  since_events_.restart();
 }
 
 bool QtInteraction::eventFilter(QObject* watched, QEvent* event) {
@@ -176,12 +184,12 @@ void QtInteraction::SetControlsEnabled(bool enabled, bool keep_busy_indicator) {
 }
 
 bool QtInteraction::PollCancel() {
-  QCoreApplication::processEvents();
+  HandleEvents();
   const bool pressed = esc_pressed_;
   esc_pressed_ = false;
   return pressed;
 }
 
-void QtInteraction::Yield() { QCoreApplication::processEvents(); }
+void QtInteraction::Yield() { HandleEvents(); }
 
 }  // namespace tarnwick::gui

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QPointer>
 #include <functional>
@@ -58,6 +59,11 @@ class QtInteraction : public QObject, public Interaction {
   const MessageTable& messages_;
   QPointer<QWidget> window_;
   ProgressView* view_;
+  // Events are handled at most every few milliseconds: a fill or run polls
+  // once per file, and handling events for each of 100,000 files would cost
+  // more than the work itself.
+  void HandleEvents();
+  QElapsedTimer since_events_;
   bool esc_pressed_ = false;
 };
 
