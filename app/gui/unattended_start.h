@@ -14,9 +14,10 @@ inline constexpr int kExitFilesFailed = 1;  // files failed, or the run was stop
 inline constexpr int kExitBadStart = 2;     // bad command line or unreadable settings file
 
 // The program without its window: "SETTINGS.twr -d" runs start-up headless,
-// applies the file and renames unattended; any other command line is
-// refused, as the desktop window is not built yet. Questions get the
-// command line's default answers and are written to the log.
+// applies the file and renames unattended; main() sends every command line
+// with "-d" here, before Qt is touched, so no display is needed. A line
+// without "-d" is refused. Questions get the command line's default answers
+// and are written to the log.
 int RunTarnwick(std::span<const std::string> args, std::ostream& err);
 
 // The run of an unattended start: `StartRename` in batch mode on the list.
