@@ -75,13 +75,20 @@ void ExifReader::SetImageFile(const std::filesystem::path& file) {
 void ExifReader::ParseHead(std::string_view head) {
   entries_.clear();
   intel_ = false;
-  translation_ = ExifTranslation::Load(translation_files_);
+  RefreshTranslation();
   try {
     Parse(head.substr(0, std::min(head.size(), kHeadBytes)));
   } catch (const VbError&) {
     // The entries read so far stay.
     status_ = Status::kFailed;
   }
+}
+
+void ExifReader::RefreshTranslation() {
+  const auto now = std::chrono::steady_clock::now();
+  if (translation_read_ && now - *translation_read_ < std::chrono::seconds(1)) return;
+  translation_ = ExifTranslation::Load(translation_files_);
+  translation_read_ = now;
 }
 
 void ExifReader::Parse(std::string_view head) {

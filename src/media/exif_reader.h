@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <string>
@@ -25,7 +26,8 @@ class ExifReader {
   static constexpr std::size_t kHeadBytes = 4096;
 
   // The texts of `MetaInfo` and `ListInfo` come from `messages`; `exif.ini`
-  // is looked for at `translation_files`, at each parse.
+  // is looked for at `translation_files`, again at a parse when the last
+  // look is more than a second old, so an edit counts from the next second.
   ExifReader(const MessageTable& messages, std::vector<std::filesystem::path> translation_files);
   // The system's language and the default places of exif.ini.
   ExifReader();
@@ -56,12 +58,14 @@ class ExifReader {
 
  private:
   void Parse(std::string_view head);
+  void RefreshTranslation();
   std::int64_t ReadDirectory(std::string_view head, std::int64_t base, std::int64_t offset,
                              std::uint32_t watched_tag);
 
   const MessageTable& messages_;
   std::vector<std::filesystem::path> translation_files_;
   ExifTranslation translation_;
+  std::optional<std::chrono::steady_clock::time_point> translation_read_;
   std::filesystem::path image_file_;
   bool intel_ = false;
   Status status_ = Status::kNoExif;
