@@ -8,7 +8,8 @@ namespace tarnwick {
 namespace {
 
 // The GUID of the header object as it stands in a file.
-constexpr char kHeaderGuidBytes[] = "\x30\x26\xB2\x75\x8E\x66\xCF\x11\xA6\xD9\x00\xAA\x00\x62\xCE\x6C";
+constexpr char kHeaderGuidBytes[] =
+    "\x30\x26\xB2\x75\x8E\x66\xCF\x11\xA6\xD9\x00\xAA\x00\x62\xCE\x6C";
 
 }  // namespace
 

@@ -43,7 +43,14 @@ constexpr std::uint32_t kOneDecimalTags[] = {33437, 282, 283, 37382, 37386, 4148
 std::string Latin1(std::string_view data) {
   std::string out;
   out.reserve(data.size());
-  for (const char c : data) utf8::AppendCodePoint(out, static_cast<unsigned char>(c));
+  for (const char c : data) {
+    const auto byte = static_cast<unsigned char>(c);
+    if (byte < 0x80) {
+      out += c;
+    } else {
+      utf8::AppendCodePoint(out, byte);
+    }
+  }
   return out;
 }
 
@@ -72,43 +79,50 @@ std::string ReadRational(const EntryData& d, std::size_t index, bool is_signed,
 
 double ValueOrZero(const std::optional<double>& value) { return value.value_or(0.0); }
 
+// Leaves the number's text to be made when it is asked for; a number that
+// has no text (infinite, not a number) is an overflow at once.
+std::string Defer(ExifEntry& e, double number, std::string_view mask) {
+  if (!std::isfinite(number)) throw VbError(vb_error::kOverflow, "Overflow");
+  e.pending_values.push_back(number);
+  e.pending_mask = mask;
+  return {};
+}
+
 std::string DecodeRational(const EntryData& d, ExifEntry& e) {
   const bool is_signed = e.Format == kSRational;
   std::optional<double>& value = e.Value;
   if (is_signed && e.Tag == kShutterSpeedValue) {
     ReadRational(d, 0, true, value);
-    return vb::Format(std::pow(2.0, ValueOrZero(value)), "0");
+    return Defer(e, std::pow(2.0, ValueOrZero(value)), "0");
   }
   if (is_signed && e.Tag == kExposureBiasValue) {
     ReadRational(d, 0, true, value);
-    return vb::Format(ValueOrZero(value), "0.0");
+    return Defer(e, ValueOrZero(value), "0.0");
   }
   if (!is_signed && e.Tag == kExposureTime) {
     ReadRational(d, 0, false, value);
     if (ValueOrZero(value) == 0.0) {
       throw VbError(vb_error::kDivisionByZero, "Division by zero");
     }
-    return vb::Format(1.0 / *value, "0");
+    return Defer(e, 1.0 / *value, "0");
   }
   if (!is_signed && (e.Tag == kApertureValue || e.Tag == kMaxApertureValue)) {
     ReadRational(d, 0, false, value);
-    return vb::Format(std::sqrt(std::pow(2.0, ValueOrZero(value))), "0.0");
+    return Defer(e, std::sqrt(std::pow(2.0, ValueOrZero(value))), "0.0");
   }
   if (!is_signed) {
     for (const std::uint32_t tag : kOneDecimalTags) {
       if (e.Tag != tag) continue;
       ReadRational(d, 0, false, value);
-      return vb::Format(ValueOrZero(value), "0.0");
+      return Defer(e, ValueOrZero(value), "0.0");
     }
   }
   if (e.Count < 2) return ReadRational(d, 0, is_signed, value);
-  std::string text;
   for (std::uint32_t i = 0; i < e.Count; ++i) {
     ReadRational(d, i, is_signed, value);
-    if (i) text += "/";
-    text += vb::Format(ValueOrZero(value), "0.000");
+    Defer(e, ValueOrZero(value), "0.000");
   }
-  return text;
+  return {};
 }
 
 std::string DecodeUndefined(const EntryData& d, ExifEntry& e) {
@@ -179,6 +193,18 @@ std::string DecodeText(const EntryData& d, ExifEntry& e) {
 }
 
 }  // namespace
+
+void FinishExifEntryText(ExifEntry& entry) {
+  if (entry.pending_values.empty()) return;
+  std::string text;
+  for (std::size_t i = 0; i < entry.pending_values.size(); ++i) {
+    if (i) text += "/";
+    text += vb::Format(entry.pending_values[i], entry.pending_mask);
+  }
+  entry.Text = std::move(text);
+  entry.pending_values.clear();
+  entry.pending_mask = {};
+}
 
 void DecodeExifEntry(const ExifBytes& bytes, std::int64_t base, std::int64_t position,
                      ExifEntry& entry) {

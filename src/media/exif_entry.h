@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <vector>
 
 namespace tarnwick {
 
@@ -16,6 +18,14 @@ struct ExifEntry {
   // rationals whose denominator is 0.
   std::optional<double> Value;
   std::string Text;
+
+  // Numbers whose text is made when it is first asked for: each formatted
+  // with `pending_mask`, joined by "/". Empty once `Text` is made.
+  std::vector<double> pending_values;
+  std::string_view pending_mask;
 };
+
+// Makes the text of an entry whose numbers are still pending.
+void FinishExifEntryText(ExifEntry& entry);
 
 }  // namespace tarnwick

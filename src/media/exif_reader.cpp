@@ -35,18 +35,23 @@ std::int64_t OffsetOf(std::string_view text) {
 
 }  // namespace
 
-std::optional<std::string> ReadExifHead(const std::filesystem::path& file) {
+std::size_t ReadExifHeadInto(const std::filesystem::path& file, std::span<char> buffer) {
   const int fd = ::open(file.c_str(), O_RDONLY | O_CLOEXEC);
-  if (fd < 0) return std::nullopt;
-  std::string head(ExifReader::kHeadBytes, '\0');
+  if (fd < 0) return 0;
   std::size_t filled = 0;
-  while (filled < head.size()) {
-    const ssize_t got = ::read(fd, head.data() + filled, head.size() - filled);
+  while (filled < buffer.size()) {
+    const ssize_t got = ::read(fd, buffer.data() + filled, buffer.size() - filled);
     if (got < 0 && errno == EINTR) continue;
     if (got <= 0) break;
     filled += static_cast<std::size_t>(got);
   }
   ::close(fd);
+  return filled;
+}
+
+std::optional<std::string> ReadExifHead(const std::filesystem::path& file) {
+  std::string head(ExifReader::kHeadBytes, '\0');
+  const std::size_t filled = ReadExifHeadInto(file, head);
   if (filled == 0) return std::nullopt;
   head.resize(filled);
   return head;
@@ -64,12 +69,12 @@ void ExifReader::SetImageFile(const std::filesystem::path& file) {
   entries_.clear();
   intel_ = false;
   // An empty or missing file is a failed parse ("File not found.").
-  const std::optional<std::string> head = ReadExifHead(file);
-  if (!head) {
+  const std::size_t filled = ReadExifHeadInto(file, head_buffer_);
+  if (filled == 0) {
     status_ = Status::kFailed;
     return;
   }
-  ParseHead(*head);
+  ParseHead(std::string_view(head_buffer_.data(), filled));
 }
 
 void ExifReader::ParseHead(std::string_view head) {
@@ -118,7 +123,9 @@ std::int64_t ExifReader::ReadDirectory(std::string_view head, std::int64_t base,
   for (std::int64_t i = 0; i < count; ++i) {
     ExifEntry& entry = entries_.emplace_back();
     DecodeExifEntry(bytes, base, start + 2 + 12 * i, entry);
-    entry.Text = translation_.Apply(entry.Name, std::move(entry.Text));
+    // Texts of numbers are made when asked for, unless needed now.
+    if (!translation_.empty() || entry.Tag == watched_tag) FinishExifEntryText(entry);
+    if (!translation_.empty()) entry.Text = translation_.Apply(entry.Name, std::move(entry.Text));
     if (entry.Tag == watched_tag) watched = OffsetOf(entry.Text);
   }
   return watched;
@@ -126,8 +133,9 @@ std::int64_t ExifReader::ReadDirectory(std::string_view head, std::int64_t base,
 
 std::int32_t ExifReader::MetaInfo(std::uint32_t tag, std::string& text, bool quiet) const {
   if (status_ != Status::kParsed) return 0;
-  for (const ExifEntry& entry : entries_) {
+  for (ExifEntry& entry : entries_) {
     if (entry.Tag != tag) continue;
+    FinishExifEntryText(entry);
     text = entry.Text;
     const double value = std::nearbyint(entry.Value.value_or(0.0));
     constexpr double kLow = std::numeric_limits<std::int32_t>::min();
@@ -139,6 +147,11 @@ std::int32_t ExifReader::MetaInfo(std::uint32_t tag, std::string& text, bool qui
   return 0;
 }
 
+const std::vector<ExifEntry>& ExifReader::entries() const {
+  for (ExifEntry& entry : entries_) FinishExifEntryText(entry);
+  return entries_;
+}
+
 std::string ExifReader::GetTagName(std::uint32_t tag) { return ExifTagName(tag); }
 
 std::string ExifReader::ListInfo() const {
@@ -147,6 +160,7 @@ std::string ExifReader::ListInfo() const {
   std::string out;
   const std::size_t lines = std::min(entries_.size(), kListLines);
   for (std::size_t i = 0; i < lines; ++i) {
+    FinishExifEntryText(entries_[i]);
     out += entries_[i].Name + ": " + entries_[i].Text + "\r\n";
   }
   return out;

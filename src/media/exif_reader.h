@@ -1,8 +1,11 @@
 #pragma once
 
+#include <array>
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
+#include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -41,7 +44,7 @@ class ExifReader {
 
   bool IntelByteAlignment() const { return intel_; }
   Status status() const { return status_; }
-  const std::vector<ExifEntry>& entries() const { return entries_; }
+  const std::vector<ExifEntry>& entries() const;
 
   // `MetaInfo`: with a parsed file, the first entry of `tag`: `text` takes its
   // text and the result is its value as a 32-bit integer. Without one, `text`
@@ -69,11 +72,15 @@ class ExifReader {
   std::filesystem::path image_file_;
   bool intel_ = false;
   Status status_ = Status::kNoExif;
-  std::vector<ExifEntry> entries_;
+  // Mutable: the texts of numbers are made on first use (see ExifEntry).
+  mutable std::vector<ExifEntry> entries_;
+  std::array<char, kHeadBytes> head_buffer_{};
 };
 
 // The first 4096 bytes of a file; nothing for a missing, unreadable or empty
 // file.
 std::optional<std::string> ReadExifHead(const std::filesystem::path& file);
+// The same into `buffer`: the count of bytes read, 0 for nothing.
+std::size_t ReadExifHeadInto(const std::filesystem::path& file, std::span<char> buffer);
 
 }  // namespace tarnwick

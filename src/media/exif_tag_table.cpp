@@ -1,5 +1,6 @@
 #include "media/exif_tag_table.h"
 
+#include <algorithm>
 #include <array>
 
 namespace tarnwick {
@@ -70,9 +71,17 @@ constexpr std::array<int, 13> kFormatSizes = {0, 1, 1, 2, 4, 8, 1, 1, 2, 4, 8, 4
 std::span<const ExifTagRow> ExifTagRows() { return kRows; }
 
 std::string ExifTagName(std::uint32_t tag) {
-  for (const ExifTagRow& row : kRows) {
-    if (row.tag == tag) return std::string(row.name);
-  }
+  // The rows sorted by tag once, for a binary search.
+  static const std::array<ExifTagRow, kRows.size()> sorted = [] {
+    std::array<ExifTagRow, kRows.size()> rows = kRows;
+    std::sort(rows.begin(), rows.end(),
+              [](const ExifTagRow& a, const ExifTagRow& b) { return a.tag < b.tag; });
+    return rows;
+  }();
+  const auto hit =
+      std::lower_bound(sorted.begin(), sorted.end(), tag,
+                       [](const ExifTagRow& row, std::uint32_t t) { return row.tag < t; });
+  if (hit != sorted.end() && hit->tag == tag) return std::string(hit->name);
   return "Tag #" + std::to_string(tag);
 }
 
