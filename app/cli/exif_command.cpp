@@ -70,9 +70,7 @@ int RunExif(std::span<const std::string> args, CliIo& io) {
   std::string text;
   const std::int32_t value = reader.MetaInfo(*a.tag, text, false);
   io.out << text << '\t' << value << '\n';
-  bool found = false;
-  for (const ExifEntry& entry : reader.entries()) found = found || entry.Tag == *a.tag;
-  return found ? kExitOk : kExitFailure;
+  return reader.HasTag(*a.tag) ? kExitOk : kExitFailure;
 }
 
 constexpr std::array<CommandForm, 2> kForms = {{

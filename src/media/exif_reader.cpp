@@ -49,14 +49,6 @@ std::size_t ReadExifHeadInto(const std::filesystem::path& file, std::span<char> 
   return filled;
 }
 
-std::optional<std::string> ReadExifHead(const std::filesystem::path& file) {
-  std::string head(ExifReader::kHeadBytes, '\0');
-  const std::size_t filled = ReadExifHeadInto(file, head);
-  if (filled == 0) return std::nullopt;
-  head.resize(filled);
-  return head;
-}
-
 ExifReader::ExifReader(const MessageTable& messages,
                        std::vector<std::filesystem::path> translation_files)
     : messages_(messages), translation_files_(std::move(translation_files)) {}
@@ -145,6 +137,14 @@ std::int32_t ExifReader::MetaInfo(std::uint32_t tag, std::string& text, bool qui
   }
   text = quiet ? "n/a" : "Tag " + std::to_string(tag) + " " + std::string(messages_.Text(557));
   return 0;
+}
+
+bool ExifReader::HasTag(std::uint32_t tag) const {
+  if (status_ != Status::kParsed) return false;
+  for (const ExifEntry& entry : entries_) {
+    if (entry.Tag == tag) return true;
+  }
+  return false;
 }
 
 const std::vector<ExifEntry>& ExifReader::entries() const {

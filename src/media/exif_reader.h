@@ -52,6 +52,9 @@ class ExifReader {
   // `text` empty and gives 0.
   std::int32_t MetaInfo(std::uint32_t tag, std::string& text, bool quiet) const;
 
+  // True when a parsed file holds an entry of `tag`.
+  bool HasTag(std::uint32_t tag) const;
+
   // `GetTagName`.
   static std::string GetTagName(std::uint32_t tag);
 
@@ -77,10 +80,8 @@ class ExifReader {
   std::array<char, kHeadBytes> head_buffer_{};
 };
 
-// The first 4096 bytes of a file; nothing for a missing, unreadable or empty
-// file.
-std::optional<std::string> ReadExifHead(const std::filesystem::path& file);
-// The same into `buffer`: the count of bytes read, 0 for nothing.
+// The first bytes of a file into `buffer` (as many as it holds): the count
+// of bytes read, 0 for a missing, unreadable or empty file.
 std::size_t ReadExifHeadInto(const std::filesystem::path& file, std::span<char> buffer);
 
 }  // namespace tarnwick

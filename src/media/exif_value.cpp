@@ -32,14 +32,10 @@ int DaysInMonth(int year, int month) {
 
 std::string ExifTagValue(ExifReader& reader, const std::filesystem::path& file, int tag) {
   reader.SetImageFile(file);
+  // A tag the file lacks gives the empty value, not the reader's "n/a".
+  if (tag < 0 || !reader.HasTag(static_cast<std::uint32_t>(tag))) return {};
   std::string text;
   reader.MetaInfo(static_cast<std::uint32_t>(tag), text, true);
-  // A tag the file lacks gives the empty value, not the reader's "n/a".
-  if (reader.status() == ExifReader::Status::kParsed && text == "n/a") {
-    bool held = false;
-    for (const ExifEntry& entry : reader.entries()) held = held || entry.Tag == std::uint32_t(tag);
-    if (!held) return {};
-  }
   return text;
 }
 
