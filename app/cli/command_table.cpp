@@ -10,6 +10,8 @@ extern const Command kOptionsCommand;
 extern const Command kExpandCommand;
 extern const Command kCatalogueCommand;
 extern const Command kListCommand;
+extern const Command kExifCommand;
+extern const Command kWmaCommand;
 
 std::span<const Command> AllCommands() {
   static const std::array kCommands = {
@@ -17,6 +19,8 @@ std::span<const Command> AllCommands() {
       kExpandCommand,
       kCatalogueCommand,
       kListCommand,
+      kExifCommand,
+      kWmaCommand,
   };
   return kCommands;
 }
