@@ -14,11 +14,13 @@ extern const Command kSettingsCommand;
 extern const Command kRunCommand;
 extern const Command kPreviewCommand;
 extern const Command kUndoCommand;
+extern const Command kExifCommand;
+extern const Command kWmaCommand;
 
 std::span<const Command> AllCommands() {
   static const std::array kCommands = {
-      kOptionsCommand, kExpandCommand,  kCatalogueCommand, kListCommand,
-      kRunCommand,     kPreviewCommand, kUndoCommand,      kSettingsCommand,
+      kOptionsCommand, kExpandCommand, kCatalogueCommand, kListCommand, kRunCommand,
+      kPreviewCommand, kUndoCommand,   kSettingsCommand,  kExifCommand, kWmaCommand,
   };
   return kCommands;
 }

@@ -7,10 +7,12 @@
 #include <string>
 
 #include "cli_command.h"
+#include "media/exif_provider.h"
 #include "persist/option_store.h"
 #include "placeholders/date_tokens.h"
 #include "placeholders/engine.h"
 #include "platform/file_times.h"
+#include "shell/message_table.h"
 
 namespace tarnwick::cli {
 namespace {
@@ -139,6 +141,10 @@ int RunExpand(std::span<const std::string> args, CliIo& io) {
   ExpansionContext context;
   context.options = &options;
   context.state = &state;
+  const ExifInfoProvider media;
+  context.media = &media;
+  const MessageTable& messages = MessageTable::Get(SystemLanguage());
+  context.message_text = [&messages](int id) { return std::string(messages.Text(id)); };
   context.now = [fixed] { return fixed ? *fixed : LocalReading(std::time(nullptr)); };
   const std::string folder = path.parent_path().string();
   const std::string folder_name =

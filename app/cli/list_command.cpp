@@ -6,6 +6,7 @@
 #include "base/utf8.h"
 #include "cli_command.h"
 #include "filelist/column_headings.h"
+#include "filelist/exif_date_source.h"
 #include "filelist/list_loader.h"
 #include "filelist/media_source.h"
 #include "patient_interaction.h"
@@ -150,7 +151,7 @@ int RunList(std::span<const std::string> args, CliIo& io) {
   TakeViewFlags(options, state);
   PatientInteraction ui(CliOptions{});
   StderrLog log(io.err);
-  FileRowMediaSource media;
+  ExifDateSource media;
   const MessageTable& messages = MessageTable::Get(SystemLanguage());
   FileListLoader loader({options, state, ui, log, media, messages});
   FileList list;

@@ -67,7 +67,7 @@ FileStatus ChangeFileDateAndTimeJPG(const FileDateEnv& env, const std::filesyste
   const std::string extension = vb::UCase(ExtensionName(path.string()));
   if (extension != "JPG" && extension != "JPEG") return FileStatus::Success();
   const std::string exif_date = env.media.ExifValue(path, kExifDateOriginalTag);
-  if (exif_date.empty()) return FileStatus::Success();
+  if (vb::Trim(exif_date).empty()) return FileStatus::Success();
   return SetFromPieces(env, path, CutPieces(exif_date, 9, 6, 1));
 }
 
