@@ -10,13 +10,13 @@ extern const Command kOptionsCommand;
 extern const Command kExpandCommand;
 extern const Command kCatalogueCommand;
 extern const Command kListCommand;
+extern const Command kTagsCommand;
+extern const Command kReportCommand;
 
 std::span<const Command> AllCommands() {
   static const std::array kCommands = {
-      kOptionsCommand,
-      kExpandCommand,
-      kCatalogueCommand,
-      kListCommand,
+      kOptionsCommand, kExpandCommand, kCatalogueCommand,
+      kListCommand,    kTagsCommand,   kReportCommand,
   };
   return kCommands;
 }

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "cli_command.h"
+#include "media/media_readers.h"
 #include "persist/option_store.h"
 #include "placeholders/date_tokens.h"
 #include "placeholders/engine.h"
@@ -137,6 +138,8 @@ int RunExpand(std::span<const std::string> args, CliIo& io) {
   const std::filesystem::path path = std::filesystem::absolute(a.file.empty() ? "." : a.file);
   PlaceholderState state;
   ExpansionContext context;
+  static const MediaReaders media;
+  context.media = &media;
   context.options = &options;
   context.state = &state;
   context.now = [fixed] { return fixed ? *fixed : LocalReading(std::time(nullptr)); };
