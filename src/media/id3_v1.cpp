@@ -25,6 +25,7 @@ std::string Field(const std::vector<std::uint8_t>& b, std::size_t at, std::size_
 void Put(std::vector<std::uint8_t>& block, std::size_t at, std::string_view text,
          std::size_t width) {
   const auto bytes = TextToBytes(text, width, false, false);
+  if (bytes.empty()) return;
   std::memcpy(block.data() + at, bytes.data(), std::min(bytes.size(), width));
 }
 

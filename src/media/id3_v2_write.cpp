@@ -116,7 +116,7 @@ std::vector<std::uint8_t> BuildID3v2Tag(const ID3v2Tag& tag, int target_version,
     if (size == 0) continue;
     const auto content = FrameContent(id, value, unicode);
     put_header(id, size);
-    std::memcpy(&out[at], content.data(), std::min<std::size_t>(content.size(), size));
+    std::copy_n(content.begin(), std::min<std::size_t>(content.size(), size), out.begin() + at);
     at += size;
   }
   for (const RawFrame& f : other_frames) {
@@ -126,7 +126,7 @@ std::vector<std::uint8_t> BuildID3v2Tag(const ID3v2Tag& tag, int target_version,
     if (target_version == kID3v24 && id == "IPLS") id = "TIPL";
     id.resize(4, ' ');
     put_header(id, f.size);
-    std::memcpy(&out[at], f.data.data(), std::min<std::size_t>(f.data.size(), f.size));
+    std::copy_n(f.data.begin(), std::min<std::size_t>(f.data.size(), f.size), out.begin() + at);
     at += f.size;
   }
   return out;

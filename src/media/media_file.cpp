@@ -53,6 +53,7 @@ std::vector<std::uint8_t> MediaFile::ReadAt(std::int64_t offset, std::size_t cou
 
 bool MediaFile::WriteAt(std::int64_t offset, const std::uint8_t* data, std::size_t count) {
   std::size_t done = 0;
+  if (count == 0) return true;
   while (done < count) {
     const ssize_t put = ::pwrite(fd_, data + done, count - done, offset + done);
     if (put < 0 && errno == EINTR) continue;
