@@ -2,6 +2,8 @@
 
 #include <fstream>
 
+#include "base/text.h"
+
 #include "media/id3_tags.h"
 #include "media/id3_v1.h"
 #include "media/id3_v2_read.h"
@@ -109,7 +111,7 @@ std::string MP3ReportLine(const ReportRow& row) {
   const bool has_v2 = ReadID3v2(path, v2);
   if (has_v2) {
     ids += "V2";
-    for (const auto field : kV2Columns) Add(line, v2.*field);
+    for (const auto field : kV2Columns) Add(line, StripAtNull(v2.*field));
     Add(line, ids);
     return line;
   }
