@@ -52,7 +52,11 @@ class TaggedFolder {
     tag.linkTo = "http://example.org/";
     tag.publisher = "Oakhollow Records";
     tarnwick::WriteID3v2(first, tag, tarnwick::kID3v23, true, false, false);
-    tarnwick::WriteID3v1(first, {.artist = "Bench", .title = "Reading", .track = "7"}, false);
+    tarnwick::ID3v1Tag v1;
+    v1.artist = "Bench";
+    v1.title = "Reading";
+    v1.track = "7";
+    tarnwick::WriteID3v1(first, v1, false);
     paths_.push_back(first);
     for (int i = 1; i < count; ++i) {
       paths_.push_back(folder_ / ("song " + std::to_string(i) + ".mp3"));
