@@ -13,7 +13,9 @@
 namespace tarnwick {
 
 MediaFile::MediaFile(const std::filesystem::path& path, Mode mode) {
-  const int flags = (mode == Mode::kRead ? O_RDONLY : O_RDWR) | O_CLOEXEC;
+  // Non-blocking, so that a FIFO among the files cannot hold the open; only
+  // regular files are kept.
+  const int flags = (mode == Mode::kRead ? O_RDONLY : O_RDWR) | O_CLOEXEC | O_NONBLOCK;
   fd_ = ::open(path.c_str(), flags);
   if (fd_ < 0) return;
   struct stat st {};
@@ -94,8 +96,12 @@ bool CopyTail(const MediaFile& from, std::int64_t offset, MediaFile& to, std::in
 
 }  // namespace
 
-bool ReplaceWithHeadAndTail(const std::filesystem::path& path,
+bool ReplaceWithHeadAndTail(const std::filesystem::path& link,
                             const std::vector<std::uint8_t>& head, std::int64_t from) {
+  // Through a symbolic link the file it names is replaced, not the link.
+  std::error_code error;
+  const std::filesystem::path path = std::filesystem::canonical(link, error);
+  if (error) return false;
   const auto folder = path.has_parent_path() ? path.parent_path() : std::filesystem::path(".");
   const auto temp = CreateUniqueTempFile(folder, "." + path.filename().string() + ".tw");
   if (!temp.ok()) return false;

@@ -154,6 +154,16 @@ TEST(ID3v2Write, FailuresLeaveTheFileAlone) {
   EXPECT_FALSE(RemoveID3v2(dir.path() / "missing.mp3", false));
 }
 
+TEST(ID3v2Write, ThroughALinkTheFileItNamesChanges) {
+  TempDir dir;
+  const auto target = dir.WriteFile("real.mp3", Tag(3, Frame3("TIT2", Text("Old"))) + MpegFrame());
+  const auto link = dir.path() / "link.mp3";
+  std::filesystem::create_symlink(target, link);
+  ASSERT_TRUE(WriteID3v2(link, {.title = std::string(300, 'n')}, kID3v23, false, false, false));
+  EXPECT_TRUE(std::filesystem::is_symlink(link));
+  EXPECT_EQ(StripAtNull(Read(target).title), std::string(300, 'n'));
+}
+
 TEST(ID3v2Write, RemoveLeavesTheRest) {
   TempDir dir;
   const std::string rest = MpegFrame() + "tail";

@@ -1,6 +1,7 @@
 #include "media/mpeg_info.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include "base/vb_error.h"
 #include "media/audio_length.h"
@@ -122,6 +123,11 @@ TEST(MpegInfo, FilesWithoutAFrame) {
   // The first false sync decides: a reserved version is no frame.
   EXPECT_FALSE(ReadMPEGInfo(dir.WriteFile("res.mp3", "\xFF\xEB\x90\x44"s + MpegFrame()), info));
   EXPECT_FALSE(ReadMPEGInfo(dir.path() / "missing.mp3", info));
+  // A FIFO is no file: nothing waits for a writer.
+  const auto fifo = dir.path() / "pipe.mp3";
+  ASSERT_EQ(::mkfifo(fifo.c_str(), 0600), 0);
+  EXPECT_FALSE(ReadMPEGInfo(fifo, info));
+  EXPECT_EQ(MediaInfoText(fifo), "00:00 min.");
 }
 
 TEST(AudioLength, FormatsAndMediaColumnText) {
