@@ -163,8 +163,9 @@ bool RemoveID3v2(const std::filesystem::path& path, bool clear_read_only) {
     if (!file.is_open()) return false;
     old_total = std::min(ID3v2TagSize(file, 0, false), file.Size());
   }
-  if (old_total != 0) ReplaceWithHeadAndTail(path, {}, old_total);
-  return true;
+  // The new file beside the old one can fail where cutting in place could not:
+  // that is reported, and the old file stays whole.
+  return old_total == 0 || ReplaceWithHeadAndTail(path, {}, old_total);
 }
 
 }  // namespace tarnwick

@@ -39,8 +39,9 @@ std::vector<std::uint8_t> BuildID3v2Tag(const ID3v2Tag& tag, int target_version,
 bool WriteID3v2(const std::filesystem::path& path, const ID3v2Tag& tag, int target_version,
                 bool discard_other_frames, bool unicode, bool clear_read_only);
 
-// Removes the version 2 tag at the file's start. True once the file could be
-// opened.
+// Removes the version 2 tag at the file's start, writing the rest into a new
+// file that then replaces the old one. True once the file could be opened and,
+// when it had a tag, the new file took its place.
 bool RemoveID3v2(const std::filesystem::path& path, bool clear_read_only);
 
 }  // namespace tarnwick
