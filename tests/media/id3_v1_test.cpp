@@ -93,6 +93,17 @@ TEST(ID3v1, WriteAppendsOrReplacesAndRemoveCuts) {
   EXPECT_FALSE(WriteID3v1(dir.path() / "missing.mp3", {}, false));
 }
 
+TEST(ID3v1, ClearReadOnlyGivesTheOwnerWriteBitBack) {
+  TempDir dir;
+  const auto path = dir.WriteFile("ro.mp3", "audio");
+  namespace fs = std::filesystem;
+  fs::permissions(path, fs::perms::owner_read | fs::perms::group_read);
+  ASSERT_TRUE(WriteID3v1(path, {.title = "T"}, true));
+  EXPECT_NE(fs::status(path).permissions() & fs::perms::owner_write, fs::perms::none);
+  EXPECT_EQ(fs::status(path).permissions() & fs::perms::group_write, fs::perms::none);
+  EXPECT_EQ(ReadWholeFile(path).size(), 5u + 128u);
+}
+
 TEST(ID3v1, TrackByteOnlyForNumbersFromOneTo255) {
   for (const auto& [track, expected] : std::vector<std::pair<std::string, int>>{
            {"0", 0}, {"256", 0}, {"12a", 0}, {"", 0}, {" 7 ", 7}, {"255", 255}, {"1000", 0}}) {
