@@ -22,17 +22,13 @@ MediaFile::MediaFile(const std::filesystem::path& path, Mode mode) {
   if (::fstat(fd_, &st) != 0 || !S_ISREG(st.st_mode)) {
     ::close(fd_);
     fd_ = -1;
+    return;
   }
+  size_ = st.st_size;
 }
 
 MediaFile::~MediaFile() {
   if (fd_ >= 0) ::close(fd_);
-}
-
-std::int64_t MediaFile::Size() const {
-  struct stat st {};
-  if (fd_ < 0 || ::fstat(fd_, &st) != 0) return 0;
-  return st.st_size;
 }
 
 std::size_t MediaFile::ReadInto(std::int64_t offset, std::uint8_t* out, std::size_t count) const {
@@ -62,10 +58,15 @@ bool MediaFile::WriteAt(std::int64_t offset, const std::uint8_t* data, std::size
     if (put <= 0) return false;
     done += static_cast<std::size_t>(put);
   }
+  size_ = std::max<std::int64_t>(size_, offset + static_cast<std::int64_t>(count));
   return true;
 }
 
-bool MediaFile::Truncate(std::int64_t size) { return ::ftruncate(fd_, size) == 0; }
+bool MediaFile::Truncate(std::int64_t size) {
+  if (::ftruncate(fd_, size) != 0) return false;
+  size_ = size;
+  return true;
+}
 
 bool MediaFile::Sync() { return ::fsync(fd_) == 0; }
 

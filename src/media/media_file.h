@@ -20,7 +20,8 @@ class MediaFile {
   MediaFile& operator=(const MediaFile&) = delete;
 
   bool is_open() const { return fd_ >= 0; }
-  std::int64_t Size() const;
+  // The size at opening, or as the last Truncate left it.
+  std::int64_t Size() const { return size_; }
 
   // `count` bytes from `offset`, zero where the file has none.
   std::vector<std::uint8_t> ReadAt(std::int64_t offset, std::size_t count) const;
@@ -33,6 +34,7 @@ class MediaFile {
 
  private:
   int fd_ = -1;
+  std::int64_t size_ = 0;
 };
 
 // Clears the read-only attribute when the file has it; nothing else changes.

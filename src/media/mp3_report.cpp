@@ -3,7 +3,6 @@
 #include <fstream>
 
 #include "base/text.h"
-
 #include "media/id3_tags.h"
 #include "media/id3_v1.h"
 #include "media/id3_v2_read.h"
