@@ -12,15 +12,13 @@ extern const Command kCatalogueCommand;
 extern const Command kListCommand;
 extern const Command kExifCommand;
 extern const Command kWmaCommand;
+extern const Command kTagsCommand;
+extern const Command kReportCommand;
 
 std::span<const Command> AllCommands() {
   static const std::array kCommands = {
-      kOptionsCommand,
-      kExpandCommand,
-      kCatalogueCommand,
-      kListCommand,
-      kExifCommand,
-      kWmaCommand,
+      kOptionsCommand, kExpandCommand, kCatalogueCommand, kListCommand,
+      kTagsCommand,    kExifCommand,   kWmaCommand,       kReportCommand,
   };
   return kCommands;
 }
