@@ -95,7 +95,8 @@ int Write(std::span<const std::string> args, CliIo& io) {
     return Failure(io, "cannot write " + result.path + ": " + result.error);
   }
   if (result.outcome == SaveSettingsResult::Outcome::kCancelled) {
-    return Failure(io, "not saved: the folder " + parsed.save_path + " does not exist");
+    return Failure(io,
+                   "not saved: the folder " + parsed.save_path + " does not exist");  // answered No
   }
   return kExitOk;
 }
@@ -151,9 +152,9 @@ constexpr std::string_view kDetails =
     "write: a text field that ends in blanks is saved with one {{space}} per blank\n"
     "of the whole field, and a note says so on standard error. The action order is\n"
     "taken from the options. The file's folder is stored in SavePathIni and the\n"
-    "log gets a line, as when saving from the window. A --save-path folder that does\n"
-    "not exist is left out after the question \"Continue saving without path?\",\n"
-    "whose default answer (No) leaves the file unwritten.\n"
+    "log gets a line, as when saving from the window. A --save-path folder that\n"
+    "does not exist brings the question \"Continue saving without path?\"; its\n"
+    "default answer, Yes, writes the file without a folder.\n"
     "\n"
     "show: the text is printed in UTF-8; a file that cannot be unscrambled and\n"
     "parsed is an error.\n"
