@@ -10,6 +10,8 @@
 #include "cli_command.h"
 #include "core/rename_settings.h"
 #include "core/settings_file.h"
+#include "persist/default_paths.h"
+#include "persist/log_file.h"
 #include "persist/log_undo_env.h"
 #include "persist/log_undo_state.h"
 #include "persist/option_store.h"
@@ -32,6 +34,11 @@ struct World {
   SystemClock clock;
   CliInteraction interaction{CliOptions{}};
   LogUndoEnv env{options, interaction, MessageTable::Get(SystemLanguage()), clock, app, state};
+  // The log line of a save goes where the window's would.
+  World() {
+    RunLog log(env);
+    CreateDefaultPaths(env, log, UserDataBaseFolder(), UserDataFallbackFolder());
+  }
 };
 
 struct WriteArgs {
