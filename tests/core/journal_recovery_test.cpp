@@ -81,13 +81,40 @@ TEST_F(JournalTest, AMoveThatHappenedGetsItsLineAndOneThatDidNotGetsNone) {
   EXPECT_TRUE(CompleteInterruptedRun(third).lines_added.empty());
 }
 
-TEST_F(JournalTest, AChangeOfCaseStoppedAtItsTemporaryNameGoesBackToItsOldName) {
+TEST_F(JournalTest, AChangeOfCaseGoesBackFromWhereverItsTwoMovesLeftIt) {
   Write("UndoBatch.bat", "");
+  const std::string steps = Move("abc.txt", "~VBabc.tmp") + Move("~VBabc.tmp", "ABC.txt");
+  // Stopped at the temporary name, before or after the second record.
   Write("~VBabc.tmp", "x");
-  const auto journal = WriteJournal(Move("abc.txt", "~VBabc.tmp") + Move("~VBabc.tmp", "ABC.txt"));
-  const JournalRecovery done = CompleteInterruptedRun(journal);
+  for (const std::string& records : {Move("abc.txt", "~VBabc.tmp"), steps}) {
+    const JournalRecovery done = CompleteInterruptedRun(WriteJournal(records));
+    ASSERT_EQ(done.lines_added.size(), 1u);
+    EXPECT_EQ(done.lines_added[0], UndoEntryLine(Path("abc.txt"), Path("~VBabc.tmp"), "move"));
+    Write("UndoBatch.bat", "");
+  }
+  // Both moves done: the file is under its new name.
+  std::filesystem::rename(dir.path() / "~VBabc.tmp", dir.path() / "ABC.txt");
+  JournalRecovery done = CompleteInterruptedRun(WriteJournal(steps));
   ASSERT_EQ(done.lines_added.size(), 1u);
-  EXPECT_EQ(done.lines_added[0], UndoEntryLine(Path("abc.txt"), Path("~VBabc.tmp"), "move"));
+  EXPECT_EQ(done.lines_added[0], UndoEntryLine(Path("abc.txt"), Path("ABC.txt"), "move"));
+  // The second move failed and the file went back: nothing to take back.
+  std::filesystem::rename(dir.path() / "ABC.txt", dir.path() / "abc.txt");
+  done = CompleteInterruptedRun(WriteJournal(steps + Move("~VBabc.tmp", "abc.txt")));
+  EXPECT_TRUE(done.lines_added.empty());
+}
+
+TEST_F(JournalTest, OnlyACopyTheRunMadeGetsItsDelLine) {
+  Write("UndoBatch.bat", "");
+  Write("src.txt", "data");
+  std::filesystem::copy_file(dir.path() / "src.txt", dir.path() / "dst.txt");
+  std::filesystem::last_write_time(dir.path() / "dst.txt",
+                                   std::filesystem::last_write_time(dir.path() / "src.txt"));
+  const std::string copy =
+      JournalStepText({JournalStepKind::kCopy, Path("src.txt"), Path("dst.txt")});
+  EXPECT_EQ(CompleteInterruptedRun(WriteJournal(copy)).lines_added.size(), 1u);
+  Write("UndoBatch.bat", "");
+  Write("dst.txt", "someone else's");
+  EXPECT_TRUE(CompleteInterruptedRun(WriteJournal(copy)).lines_added.empty());
 }
 
 TEST_F(JournalTest, OlderRunsArePutBehindAndAHalfDoneAppendIsRedone) {
