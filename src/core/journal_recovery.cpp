@@ -6,8 +6,10 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "core/journal.h"
 #include "core/journal_format.h"
 #include "persist/log_append.h"
+#include "persist/log_options.h"
 #include "persist/undo_line.h"
 #include "platform/files.h"
 
@@ -170,6 +172,11 @@ std::vector<JournalRecovery> CompleteInterruptedRuns(
   std::vector<JournalRecovery> results;
   for (const auto& journal : journals) results.push_back(CompleteInterruptedRun(journal));
   return results;
+}
+
+std::vector<JournalRecovery> CompleteInterruptedRunsAtStart(const OptionStore& options,
+                                                            const LogUndoState& state) {
+  return CompleteInterruptedRuns(JournalsInFolder(UndoFolderPath(options, state)));
 }
 
 }  // namespace tarnwick
