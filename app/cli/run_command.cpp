@@ -10,7 +10,6 @@
 #include "base/clock.h"
 #include "base/path_text.h"
 #include "cli_command.h"
-#include "core/journal.h"
 #include "core/journal_recovery.h"
 #include "core/rename_settings.h"
 #include "core/start_rename.h"
@@ -91,8 +90,7 @@ void SelectRows(FileList& list, const std::string& glob) {
 // Journals of runs that were killed: their batches are completed before a
 // new run saves or replaces them.
 void CompleteKilledRuns(const OptionStore& options, const LogUndoState& state, CliIo& io) {
-  for (const JournalRecovery& done :
-       CompleteInterruptedRuns(JournalsInFolder(UndoFolderPath(options, state)))) {
+  for (const JournalRecovery& done : CompleteInterruptedRunsAtStart(options, state)) {
     if (done.outcome == JournalRecovery::Outcome::kCompleted) {
       io.err << kProgramName
              << ": completed the undo batch of an interrupted run: " << done.batch_path << '\n';
@@ -206,6 +204,13 @@ constexpr std::string_view kRunDetails =
     "2 bad arguments, 3 a check before the first file stopped the run (its\n"
     "message on standard error).\n";
 
+constexpr std::string_view kPreviewDetails =
+    "Takes the arguments of run except --mode (see 'tarnwick-cli run --help').\n"
+    "No file is changed; the log and the undo batch get the test's entries\n"
+    "(comment lines) as the options say. One line per file on standard\n"
+    "output: present name, a tab, new name, a tab, folder. Exit status as for\n"
+    "run.\n";
+
 }  // namespace
 
 extern const Command kRunCommand = {
@@ -220,7 +225,7 @@ extern const Command kPreviewCommand = {
     .name = "preview",
     .summary = "show the new names a run would give, changing nothing",
     .forms = kPreviewForms,
-    .details = kRunDetails,
+    .details = kPreviewDetails,
     .run = RunPreview,
 };
 

@@ -8,7 +8,6 @@
 #include "base/vb_date_text.h"
 #include "base/vb_error.h"
 #include "base/vb_number.h"
-#include "core/journal.h"
 #include "persist/crash_recovery.h"
 #include "persist/default_paths.h"
 #include "persist/log_date_text.h"
@@ -187,8 +186,7 @@ void Sequence::OpenSplash() {
 
 void Sequence::MakeFolders() {
   CreateDefaultPaths(env_, log_, input_.data_base_folder, input_.data_fallback_folder);
-  result_.journals =
-      CompleteInterruptedRuns(JournalsInFolder(UndoFolderPath(env_.options, env_.state)));
+  result_.journals = CompleteInterruptedRunsAtStart(env_.options, env_.state);
   for (const JournalRecovery& recovery : result_.journals) {
     const bool completed = recovery.outcome == JournalRecovery::Outcome::kCompleted;
     if (!completed && recovery.outcome != JournalRecovery::Outcome::kFailed) continue;
