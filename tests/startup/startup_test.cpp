@@ -8,6 +8,7 @@
 
 #include "base/clock.h"
 #include "base/vb_error.h"
+#include "core/journal.h"
 #include "core/rename_settings.h"
 #include "core/settings_file.h"
 #include "persist/log_undo_env.h"
@@ -169,6 +170,19 @@ TEST_F(StartupTest, AFolderThatIsGoneFallsBackToTheRootAndGoesOn) {
   EXPECT_EQ(app_.CurrentPath, input_.default_root);
   EXPECT_EQ(result.error_number, 76);
   EXPECT_EQ(Option("ResetPath"), "0");
+}
+
+TEST_F(StartupTest, AJournalLeftByAKilledRunIsCompletedAtStart) {
+  const auto undo = dir_.path() / "data/Oakhollow/Tarnwick/Undo Files";
+  std::filesystem::create_directories(undo);
+  dir_.WriteFile("data/Oakhollow/Tarnwick/Undo Files/UndoBatch.bat", "@echo off\r\n");
+  // A journal that is closed without being removed: its run was killed.
+  ASSERT_NE(RunJournal::Begin(undo / "UndoBatch.bat", "", nullptr), nullptr);
+  ASSERT_EQ(JournalsInFolder(undo).size(), 1u);
+  const StartupResult result = Start();
+  ASSERT_EQ(result.journals.size(), 1u);
+  EXPECT_EQ(result.journals[0].outcome, JournalRecovery::Outcome::kCompleted);
+  EXPECT_TRUE(JournalsInFolder(undo).empty());
 }
 
 TEST(CommandLine, TheTableOfTests) {
