@@ -104,10 +104,6 @@ std::string ReadWholeFile(const std::string& path, bool& ok) {
 
 struct XMLConfiguration::Document {
   pugi::xml_document doc;
-  // Whether the last parse failed, with its code and reason.
-  bool parse_failed = false;
-  int parse_status = 0;
-  std::string parse_reason;
 
   pugi::xml_node Root() const {
     const pugi::xml_node root = doc.document_element();
@@ -121,17 +117,25 @@ XMLConfiguration::~XMLConfiguration() = default;
 
 void XMLConfiguration::Raise(int number, std::string_view description) const {
   const std::string number_text = std::to_string(number);
-  if (document_ && document_->parse_failed) {
-    const std::string code = std::to_string(document_->parse_status);
-    throw VbError(number, FillMessage(kParseErrorTemplate,
-                                      {number_text, description, code, document_->parse_reason}));
+  if (parse_failed_) {
+    const std::string code = std::to_string(parse_status_);
+    throw VbError(
+        number, FillMessage(kParseErrorTemplate, {number_text, description, code, parse_reason_}));
   }
   throw VbError(number, FillMessage(kErrorTemplate, {number_text, description}));
+}
+
+void XMLConfiguration::FailParse(int status, std::string reason) {
+  parse_failed_ = true;
+  parse_status_ = status;
+  parse_reason_ = std::move(reason);
+  document_.reset();
 }
 
 bool XMLConfiguration::LoadConfigurationFile(std::string_view path, bool create) {
   path_ = std::string(path);
   document_.reset();
+  parse_failed_ = false;
   if (!FileExists(path_)) {
     if (!create) return false;
     document_ = std::make_unique<Document>();
@@ -150,9 +154,7 @@ bool XMLConfiguration::LoadConfigurationFile(std::string_view path, bool create)
   if (!read) Raise(vb_error::kPathFileAccessError, "Path/File access error");
   document_ = std::make_unique<Document>();
   if (bytes.size() > kMaxFileBytes) {
-    document_->parse_failed = true;
-    document_->parse_status = pugi::status_out_of_memory;
-    document_->parse_reason = "File too large";
+    FailParse(pugi::status_out_of_memory, "File too large");
     Raise(kXmlReadConfigurationError, kXmlReadConfigurationText);
   }
   if (encryption_) {
@@ -167,11 +169,10 @@ bool XMLConfiguration::LoadConfigurationFile(std::string_view path, bool create)
   const pugi::xml_parse_result result =
       document_->doc.load_buffer(text.data(), text.size(), kParseFlags, pugi::encoding_utf8);
   if (!result || !HasSingleRoot(document_->doc) || HasTextOutsideMarkup(text)) {
-    document_->parse_failed = true;
-    document_->parse_status = result ? -1 : static_cast<int>(result.status);
-    document_->parse_reason =
-        result ? "Only one top level element is allowed in an XML document"
-               : std::string(result.description()) + " at offset " + std::to_string(result.offset);
+    FailParse(
+        result ? -1 : static_cast<int>(result.status),
+        result ? "A document has one root element and no text beside it"
+               : std::string(result.description()) + " at offset " + std::to_string(result.offset));
     Raise(kXmlReadConfigurationError, kXmlReadConfigurationText);
   }
   RestoreTopLevelLayout(document_->doc);

@@ -99,11 +99,17 @@ class XMLConfiguration {
   struct Document;
 
   [[noreturn]] void Raise(int number, std::string_view description) const;
+  // A parse that failed: its code and reason go into the error, and the
+  // document is dropped, so nothing is read from half a file.
+  void FailParse(int status, std::string reason);
 
   std::string path_;
   std::string key_;
   bool encryption_ = false;
   std::unique_ptr<Document> document_;
+  bool parse_failed_ = false;
+  int parse_status_ = 0;
+  std::string parse_reason_;
 };
 
 // The scrambling step, the same both ways: byte i XOR key character
