@@ -181,43 +181,44 @@ bool XMLConfiguration::LoadConfigurationFile(std::string_view path, bool create)
 
 namespace {
 
-// The single node the lookup expression selects. The names go into the
-// expression as they are: a double quote in one breaks it, and that raises.
-pugi::xml_node SelectNode(const pugi::xml_document& doc, const std::string& expression,
-                          std::string& error) {
-  try {
-    const pugi::xpath_query query(expression.c_str());
-    if (!query.result()) {
-      error = query.result().description();
-      return {};
-    }
-    return query.evaluate_node(doc).node();
-  } catch (const pugi::xpath_exception& exception) {
-    error = exception.what();
-    return {};
+// The lookup of the older program built an expression from the names as
+// they are, so a double quote in one broke it; that still raises.
+constexpr std::string_view kBrokenLookup = "Expected ']' in the lookup of a name with a quote";
+
+bool BreaksLookup(std::string_view name) { return name.find('"') != std::string_view::npos; }
+
+bool Named(const pugi::xml_node& node, std::string_view element, std::string_view name) {
+  return node.type() == pugi::node_element && element == node.name() &&
+         name == node.attribute("name").value();
+}
+
+// The first child of `parent` that is `element` with attribute name = `name`.
+pugi::xml_node FindNamed(const pugi::xml_node& parent, std::string_view element,
+                         std::string_view name) {
+  for (const pugi::xml_node child : parent.children()) {
+    if (Named(child, element, name)) return child;
   }
-}
-
-std::string SectionExpression(std::string_view section) {
-  return "//configuration/section[@name=\"" + std::string(section) + "\"]";
-}
-
-std::string ItemExpression(std::string_view item) {
-  return "item[@name=\"" + std::string(item) + "\"]";
+  return {};
 }
 
 }  // namespace
 
 std::string XMLConfiguration::ReadValue(std::string_view section, std::string_view item) const {
-  if (!document_ || !document_->Root()) return {};
-  std::string error;
-  const pugi::xml_node node =
-      SelectNode(document_->doc, SectionExpression(section) + "/" + ItemExpression(item), error);
-  if (!error.empty()) Raise(vb_error::kInvalidProcedureCall, error);
-  if (!node) return {};
-  const pugi::xml_attribute value = node.attribute("value");
-  if (!value) return {};
-  return value.value();
+  if (!document_) return {};
+  const pugi::xml_node root = document_->Root();
+  if (!root) return {};
+  if (BreaksLookup(section) || BreaksLookup(item)) {
+    Raise(vb_error::kInvalidProcedureCall, kBrokenLookup);
+  }
+  // The first item of that name in any section of that name, in file order.
+  for (const pugi::xml_node section_node : root.children()) {
+    if (!Named(section_node, "section", section)) continue;
+    const pugi::xml_node node = FindNamed(section_node, "item", item);
+    if (!node) continue;
+    const pugi::xml_attribute value = node.attribute("value");
+    return value ? value.value() : "";
+  }
+  return {};
 }
 
 void XMLConfiguration::WriteValue(std::string_view section, std::string_view item,
@@ -225,21 +226,17 @@ void XMLConfiguration::WriteValue(std::string_view section, std::string_view ite
   if (!document_) return;
   pugi::xml_node root = document_->Root();
   if (!root) return;
-  std::string error;
-  pugi::xml_node section_node = SelectNode(document_->doc, SectionExpression(section), error);
-  if (!error.empty()) Raise(vb_error::kInvalidProcedureCall, error);
+  if (BreaksLookup(section) || BreaksLookup(item)) {
+    Raise(vb_error::kInvalidProcedureCall, kBrokenLookup);
+  }
+  pugi::xml_node section_node = FindNamed(root, "section", section);
   if (!section_node) {
     AppendText(root, kBeforeSection);
     section_node = root.append_child("section");
     section_node.append_attribute("name") = std::string(section).c_str();
     AppendText(root, kAfterSection);
   }
-  pugi::xml_node item_node;
-  try {
-    item_node = section_node.select_node(ItemExpression(item).c_str()).node();
-  } catch (const pugi::xpath_exception& exception) {
-    Raise(vb_error::kInvalidProcedureCall, exception.what());
-  }
+  pugi::xml_node item_node = FindNamed(section_node, "item", item);
   if (!item_node) {
     const bool first = !section_node.child("item");
     AppendText(section_node, first ? kBeforeFirstItem : kBeforeItem);

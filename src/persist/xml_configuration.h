@@ -73,8 +73,10 @@ class XMLConfiguration {
   // raises kXmlReadConfigurationError. True when the document is usable.
   bool LoadConfigurationFile(std::string_view path, bool create);
 
-  // The value of `item` in `section`; empty when the document, the root, the
-  // section, the item or its value is missing. A name holding a double quote
+  // The value of `item` in `section` (the first item of that name in a
+  // section of that name, among the root's sections in file order); empty
+  // when the document, the root, the section, the item or its value is
+  // missing. A name holding a double quote
   // breaks the lookup expression and raises.
   std::string ReadValue(std::string_view section, std::string_view item) const;
 
