@@ -101,7 +101,7 @@ TEST_F(CliRunTest, ExitCodesForBadArgumentsStoppedRunsAndFailedFiles) {
   EXPECT_EQ(cli.Run({"run", "--folder", "/no/such/folder"}).exit_code, 2);
   CliResult result = Run({"run", "my.twr", "--set", "chkPrefix=1"});
   EXPECT_EQ(result.exit_code, 2);
-  EXPECT_THAT(result.err, HasSubstr("settings files cannot be read"));
+  EXPECT_THAT(result.err, HasSubstr("no settings file 'my.twr'"));
 
   result = Run({"run", "--set", "chkNumbers=1"});
   EXPECT_EQ(result.exit_code, 3);
