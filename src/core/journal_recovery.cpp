@@ -99,8 +99,15 @@ FileStatus AddMissingLine(const JournalContent& content, JournalRecovery& result
   return status;
 }
 
+// A run killed before it started its batch anew left the batch as the
+// older runs' copy has it: nothing is to be put behind it.
+bool BatchIsOlderRuns(const JournalContent& content, std::string_view batch_bytes) {
+  return !content.finish_size && batch_bytes == ReadFileBytes(content.older_copy);
+}
+
 FileStatus AppendOlderRuns(const JournalContent& content, JournalRecovery& result) {
   if (content.older_copy.empty() || !FileExists(content.older_copy)) return FileStatus::Success();
+  if (BatchIsOlderRuns(content, ReadFileBytes(content.batch_path))) return FileStatus::Success();
   if (content.finish_size &&
       ::truncate(content.batch_path.c_str(), static_cast<off_t>(*content.finish_size)) != 0) {
     return FileStatus::Error(vb_error::kPermissionDenied);
@@ -134,6 +141,7 @@ std::string PreviewCompletedBatch(const std::filesystem::path& journal, std::str
   const std::optional<std::string> line = MissingLine(content.open_steps);
   if (line && LastLine(batch_bytes) != *line) batch_bytes += *line + std::string(kLineEnd);
   if (content.older_copy.empty() || !FileExists(content.older_copy)) return batch_bytes;
+  if (BatchIsOlderRuns(content, batch_bytes)) return batch_bytes;
   if (content.finish_size && *content.finish_size < batch_bytes.size()) {
     batch_bytes.resize(*content.finish_size);
   }

@@ -73,6 +73,14 @@ TEST(CliCrashTest, AKilledRunLeavesEachFileOnceAndUndoBringsAllBack) {
     std::filesystem::create_directories(folder);
     for (int i = 0; i < kFiles; ++i) std::ofstream(folder / Numbered(i)) << i;
     ASSERT_EQ(cli.Run({"options", "set", "Options", "ReadySound", "0"}).exit_code, 0);
+    // An earlier run whose lines the killed run's batch must keep behind its own.
+    const std::filesystem::path earlier = cli.dir().path() / "earlier";
+    std::filesystem::create_directories(earlier);
+    for (const char* name : {"one.txt", "two.txt"}) std::ofstream(earlier / name) << name;
+    ASSERT_EQ(cli.Run({"run", "--folder", earlier.string(), "--set", "chkPrefix=1", "--set",
+                       "txtPrefix=E_"})
+                  .exit_code,
+              0);
     // Every other round changes the case only, which goes through temporary names.
     std::vector<std::string> args = {"run",         "--folder", folder.string(), "--set",
                                      "chkPrefix=1", "--set",    "txtPrefix=IMG_"};
@@ -107,7 +115,7 @@ TEST(CliCrashTest, AKilledRunLeavesEachFileOnceAndUndoBringsAllBack) {
 
     const std::string batch =
         (cli.data_home() / "Oakhollow" / "Tarnwick" / "Undo Files" / "UndoBatch.bat").string();
-    if (std::filesystem::exists(batch)) {
+    {
       const auto undo = cli.Run({"undo", batch});
       EXPECT_EQ(undo.exit_code, 0) << undo.err.substr(0, 2000);
     }
@@ -115,6 +123,8 @@ TEST(CliCrashTest, AKilledRunLeavesEachFileOnceAndUndoBringsAllBack) {
       ASSERT_TRUE(std::filesystem::exists(folder / Numbered(i))) << Numbered(i);
     }
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder), {}), kFiles);
+    EXPECT_TRUE(std::filesystem::exists(earlier / "one.txt"));
+    EXPECT_TRUE(std::filesystem::exists(earlier / "two.txt"));
   }
 }
 

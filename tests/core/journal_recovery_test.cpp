@@ -128,6 +128,10 @@ TEST_F(JournalTest, OlderRunsArePutBehindAndAHalfDoneAppendIsRedone) {
   Write("UndoBatch.bat", "NEW\r\n");
   EXPECT_EQ(PreviewCompletedBatch(WriteJournal("", Path("older.bat")), "NEW\r\n"),
             "NEW\r\nOLDER\r\n");
+  // Killed before the batch was started anew: it holds the older runs alone.
+  Write("UndoBatch.bat", "OLDER\r\n");
+  EXPECT_FALSE(CompleteInterruptedRun(WriteJournal("", Path("older.bat"))).older_runs_appended);
+  EXPECT_EQ(ReadWholeFile(batch()), "OLDER\r\n");
 }
 
 TEST_F(JournalTest, AJournalHeldByALiveRunIsLeftAlone) {

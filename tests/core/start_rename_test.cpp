@@ -314,6 +314,7 @@ TEST_F(RunTest, NamesTheFileSystemCannotTakeAreErrorsOfTheirFile) {
   result = Run();
   EXPECT_EQ(Names(), (std::vector<std::string>{"a.txt", "b.txt"}));
   EXPECT_EQ(result.done, 0);
+  EXPECT_EQ(result.failed, 2);
 }
 
 TEST_F(RunTest, CancelIsReadOncePerFileAndKeepsWhatWasDone) {
