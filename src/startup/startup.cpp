@@ -262,8 +262,11 @@ void Sequence::ObeyCommandLine() {
   if (line.batch) {
     Status(Text("startup.processing_batch"));
     env_.app.BatchMode = true;
-    // A run with controls the file did not set could rename the wrong files.
-    if (!result_.settings_failed) result_.batch = host_.RunBatch();
+    // A run with controls the file did not set, or in the root the list
+    // fell back to, could rename the wrong files.
+    if (!result_.settings_failed && !result_.settings_load.folder_gone) {
+      result_.batch = host_.RunBatch();
+    }
     MarkStartFinished(env_);
     host_.UnloadMainWindow();
     result_.outcome = Outcome::kBatchDone;

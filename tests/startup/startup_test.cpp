@@ -157,6 +157,13 @@ TEST_F(StartupTest, SettingsFileWithSwitchRunsTheBatchAndSkipsTheRest) {
   EXPECT_EQ(Option("ResetPath"), "0");
   EXPECT_EQ(Option("SetFileAssoc"), "") << "the rest of start-up is skipped";
 
+  // Nor does a file whose folder has gone: the list would show the root.
+  std::filesystem::remove_all(files);
+  const StartupResult gone = Start("job.twr -d");
+  EXPECT_TRUE(gone.settings_load.folder_gone);
+  EXPECT_FALSE(gone.batch.ran);
+  EXPECT_EQ(app_.CurrentPath, "/");
+
   // A file that cannot be applied starts no run.
   const StartupResult missing = Start("missing.twr -d");
   EXPECT_TRUE(missing.settings_failed);
