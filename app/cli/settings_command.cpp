@@ -12,6 +12,7 @@
 #include "core/settings_file.h"
 #include "persist/default_paths.h"
 #include "persist/log_file.h"
+#include "persist/log_options.h"
 #include "persist/log_undo_env.h"
 #include "persist/log_undo_state.h"
 #include "persist/option_store.h"
@@ -95,7 +96,7 @@ int Write(std::span<const std::string> args, CliIo& io) {
     }
   }
   for (const auto& [name, value] : parsed.sets) SetRenameSetting(settings, name, value);
-  if (parsed.has_save_path) world.app.CurrentPath = parsed.save_path;
+  if (parsed.has_save_path) world.app.CurrentPath = AbsolutePath(parsed.save_path);
   const SaveSettingsResult result =
       SaveSettingsTo(world.env, settings, parsed.out, parsed.has_save_path);
   if (result.outcome == SaveSettingsResult::Outcome::kFailed) {
