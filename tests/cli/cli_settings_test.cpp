@@ -71,6 +71,12 @@ TEST_F(CliSettingsTest, BadArgumentsAndUnreadableFiles) {
   EXPECT_EQ(plain.exit_code, 1);
   EXPECT_THAT(plain.err, HasSubstr("Error occurred while opening configuration file."));
   EXPECT_EQ(cli_.Run({"run", "plain.twr", "--folder", "."}).exit_code, 2);
+  std::filesystem::create_directories(work() / "soon_gone");
+  ASSERT_EQ(cli_.Run({"settings", "write", "gone.twr", "--save-path", "soon_gone"}).exit_code, 0);
+  std::filesystem::remove(work() / "soon_gone");
+  const CliResult gone = cli_.Run({"run", "gone.twr"});
+  EXPECT_EQ(gone.exit_code, 2);
+  EXPECT_THAT(gone.err, HasSubstr("no longer exists"));
 }
 
 TEST_F(CliSettingsTest, RunAppliesTheFileThenTheOverrides) {
