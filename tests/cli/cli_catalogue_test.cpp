@@ -62,7 +62,15 @@ TEST(CliCatalogueTest, LanguageFollowsTheSystemUnlessGiven) {
   const std::string english = cli.Run({"catalogue", "--language", "en"}).out;
   EXPECT_NE(german, english);
   EXPECT_EQ(Lines(german).size(), Lines(english).size());
-  EXPECT_EQ(cli.Run({"catalogue", "--language", "de"}).out, german);
+  // The samples of the present time may move on between two runs.
+  const auto without_clock = [](const std::string& text) {
+    std::vector<std::string> kept;
+    for (const std::string& line : Lines(text)) {
+      if (line.rfind("{{ctime", 0) != 0) kept.push_back(line);
+    }
+    return kept;
+  };
+  EXPECT_EQ(without_clock(cli.Run({"catalogue", "--language", "de"}).out), without_clock(german));
 }
 
 TEST(CliCatalogueTest, WrongCallsAreUsageErrors) {
