@@ -1,6 +1,5 @@
 // "list": the rows the file list holds for a folder, all eleven columns.
 #include <array>
-#include <chrono>
 #include <cstdio>
 #include <string>
 
@@ -10,6 +9,7 @@
 #include "filelist/list_loader.h"
 #include "filelist/media_column_source.h"
 #include "json_text.h"
+#include "patient_interaction.h"
 #include "persist/option_store.h"
 #include "platform/files.h"
 #include "shell/app_state.h"
@@ -62,23 +62,6 @@ std::optional<std::string> ParseArgs(std::span<const std::string> args, ListArgs
   if (!out.filter.starts_with("*.")) return "--filter takes the form \"*.ext\" or \"*.*\"";
   return std::nullopt;
 }
-
-// Shows status and progress only once a fill has taken longer than a moment.
-class PatientInteraction : public CliInteraction {
- public:
-  using CliInteraction::CliInteraction;
-  void ShowStatus(StatusArea area, std::string_view text) override {
-    if (Due()) CliInteraction::ShowStatus(area, text);
-  }
-  void ShowProgress(std::int64_t value, std::int64_t max) override {
-    if (Due()) CliInteraction::ShowProgress(value, max);
-  }
-
- private:
-  bool Due() const { return std::chrono::steady_clock::now() - start_ > kMoment; }
-  static constexpr std::chrono::milliseconds kMoment{400};
-  std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
-};
 
 // The fill's log lines go to standard error on the command line.
 class StderrLog : public FileListLog {

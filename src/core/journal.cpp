@@ -54,15 +54,15 @@ int CreateJournalFile(const std::filesystem::path& batch_path, std::filesystem::
   const std::string base = batch_path.string() + "." + std::to_string(::getpid());
   for (int n = 1; n <= 100; ++n) {
     path = base + (n == 1 ? "" : "-" + std::to_string(n)) + std::string(kSuffix);
-    const int fd =
-        ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_APPEND | O_CLOEXEC, 0644);
+    const int fd = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_APPEND | O_CLOEXEC, 0644);
     if (fd >= 0 || errno != EEXIST) return fd >= 0 ? fd : -errno;
   }
   return -EEXIST;
 }
 
 bool EndsWith(const std::string& text, std::string_view tail) {
-  return text.size() > tail.size() && text.compare(text.size() - tail.size(), tail.size(), tail) == 0;
+  return text.size() > tail.size() &&
+         text.compare(text.size() - tail.size(), tail.size(), tail) == 0;
 }
 
 std::vector<std::filesystem::path> Journals(const std::filesystem::path& folder,

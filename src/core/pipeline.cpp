@@ -5,6 +5,7 @@
 
 #include "base/path_text.h"
 #include "base/text.h"
+#include "base/vb_number.h"
 #include "core/action_order.h"
 #include "core/expansion_setup.h"
 #include "core/manual_rename.h"
@@ -74,6 +75,8 @@ std::string RunPipeline(const PipelineEnv& env, std::string& name, std::size_t r
   if (!result.empty() && !PassOpenFileTest(env, folder, old_name)) result.clear();
   if (test_mode) result = name;
   NextNumberStep(env.app, env.settings);
+  // The random numbers of the next file come from further on in the pool.
+  env.app.random_pool.Advance(vb::CLng(vb::Val(env.settings.txtStep)));
   return result;
 }
 

@@ -56,6 +56,8 @@ UndoStep Step(int run, const UndoBatchEntry& entry, bool dry_run) {
   UndoStep step{run, entry.line_number, entry.line, UndoStepOutcome::kSkipped, {}};
   const UndoLine& line = entry.line;
   if (line.command == "rem") return step;
+  // A skipped file's line names the same file twice: nothing to take back.
+  if (line.command != "del" && line.new_path == line.old_path) return step;
   step.outcome = UndoStepOutcome::kFailed;
   if (line.command != "move" && line.command != "del") {
     step.status = {vb_error::kInvalidProcedureCall, "Unknown command"};

@@ -59,7 +59,16 @@ struct OptionStore::Impl {
   mutable OptionFileIdentity identity;
   mutable bool loaded = false;
   mutable bool racy = false;
+  // Values of this process only, read before the file's.
+  IniDocument overrides;
 };
+
+void OptionStore::SetOverride(std::string_view name, std::string_view section,
+                              std::string_view value) {
+  if (!impl_ || name.empty()) return;
+  const std::lock_guard guard(impl_->mutex);
+  impl_->overrides.Set(section, name, value);
+}
 
 OptionStore OptionStore::ForCurrentUser() { return OptionStore(DefaultFile()); }
 
@@ -76,6 +85,9 @@ std::string OptionStore::GetOption(std::string_view name, std::string_view secti
   try {
     if (!impl_) return std::string(default_value);
     const std::lock_guard guard(impl_->mutex);
+    if (const std::string* value = impl_->overrides.Find(section, name)) {
+      if (!value->empty()) return *value;
+    }
     impl_->Refresh();
     const std::string* value = impl_->document.Find(section, name);
     if (value == nullptr || value->empty()) return std::string(default_value);

@@ -40,6 +40,12 @@ class OptionStore {
   // file) when needed. Returns whether the file now holds the value; callers
   // that follow the silent rule ignore it. Empty names are never stored.
   bool SaveOption(std::string_view name, std::string_view section, std::string_view value);
+  // A value for this store object only: GetOption reads it before the
+  // file's, and it is never written (a command-line run's settings that must
+  // leave the stored options as they were). An empty value lifts it.
+  // SaveOption still writes the file and leaves the override in place.
+  void SetOverride(std::string_view name, std::string_view section, std::string_view value);
+
   // Removes a whole section with every key in it (crash recovery deletes
   // "Options"). Returns false only when the file could not be rewritten.
   bool DeleteSection(std::string_view section);

@@ -41,6 +41,21 @@ constexpr MessageEntry kEntries[] = {
      "Tarnwick erfolgreich gestartet"},
     {0, "startup.log.initialize_with", "Initialize with '", "Initialisiert mit '"},
     {0, "startup.log.files_comma", " files, ", " Dateien, "},
+    // Undo batches of runs that were killed, completed at start-up.
+    {0, "startup.log.interrupted_run", "Interrupted run", "Unterbrochener Lauf"},
+    {0, "startup.log.batch_completed", "Completed the undo batch of an interrupted run '",
+     "Undo-Batch eines unterbrochenen Laufs vervollständigt '"},
+    {0, "startup.log.batch_not_completed",
+     "Could not complete the undo batch of an interrupted run '",
+     "Undo-Batch eines unterbrochenen Laufs konnte nicht vervollständigt werden '"},
+    {0, "batch.log.question_answered", "Question answered in unattended run",
+     "Frage in unbeaufsichtigtem Lauf beantwortet"},
+    // The program without a window.
+    {0, "startup.no_desktop_window",
+     "The desktop window of Tarnwick is not built yet. Start an unattended run with: tarnwick "
+     "SETTINGS.twr -d",
+     "Das Fenster von Tarnwick ist noch nicht gebaut. Eine unbeaufsichtigte Umbenennung startet "
+     "mit: tarnwick EINSTELLUNGEN.twr -d"},
 
     // Errors of start-up and closing.
     {189, "startup.log.error_subject", "Start Tarnwick (ERROR)", "Tarnwick starten (FEHLER)"},

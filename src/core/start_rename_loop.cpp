@@ -1,0 +1,192 @@
+// The loop of a run: one selected row after the other, in list order.
+#include <string>
+
+#include "base/path_text.h"
+#include "base/text.h"
+#include "core/file_date_time.h"
+#include "core/numbering.h"
+#include "core/pipeline.h"
+#include "core/run_error_handler.h"
+#include "core/run_file_ops.h"
+#include "core/start_rename_steps.h"
+#include "filelist/file_list.h"
+#include "persist/option_store.h"
+#include "shell/app_state.h"
+#include "shell/interaction.h"
+
+namespace tarnwick {
+namespace {
+
+// One file on its way through the loop.
+struct FileStep {
+  std::size_t index = 0;  // 0-based place in the run
+  std::size_t row = 0;
+  std::string folder;
+  std::string name;  // the present name
+  std::string date;  // the row's date column
+  std::string old_path;
+  std::string new_name;
+  std::string new_path;
+  bool failed = false;
+};
+
+bool OptionIs(const RunContext& run, std::string_view key, std::string_view value) {
+  return run.env.options.GetOption(key, "Options", "0") == value;
+}
+
+// "Tarnwick - [007/120] name  [To cancel use "Esc" key]".
+void ShowCaption(RunContext& run, const FileStep& file) {
+  const std::string total = std::to_string(run.rows.size());
+  std::string number = std::to_string(file.index + 1);
+  if (number.size() < total.size()) number.insert(0, total.size() - number.size(), '0');
+  run.env.interaction.SetCaption(run.Text("run.caption_prefix") + "[" + number + "/" + total +
+                                 "] " + file.name + "  " + run.Text("run.caption_cancel_hint"));
+}
+
+// Whether the new name keeps anything in front of its extension and dot.
+// Kept: the dot is counted even where there is no extension, so a
+// one-letter name without extension fails.
+bool BasePasses(const std::string& new_path, const std::string& new_name) {
+  return vb::Len(new_name) - vb::Len(ExtensionName(new_path)) - 1 > 0;
+}
+
+// The file keeps its old date, or takes its EXIF date, when the options say so.
+void KeepDates(RunContext& run, FileStep& file, const std::string& path) {
+  const FileDateEnv dates{run.env.options, run.env.interaction, run.env.messages, run.env.media};
+  if (OptionIs(run, "KeepOldFiledate", "1")) {
+    file.failed |= !Guarded(run, file.old_path, file.new_path, run.note, [&] {
+      const FileStatus status = ChangeFileDateAndTimeKeepOld(dates, path, file.date);
+      if (!status.ok()) throw status.ToVbError();
+    });
+  }
+  if (run.exif_date) {
+    file.failed |= !Guarded(run, file.old_path, file.new_path, run.note, [&] {
+      const FileStatus status = ChangeFileDateAndTimeJPG(dates, path);
+      if (!status.ok()) throw status.ToVbError();
+    });
+  }
+}
+
+// Renames, copies or lists the file by the run's mode. False when the step
+// failed (the handler has reported it) and there is nothing to log.
+bool CarryOut(RunContext& run, FileStep& file) {
+  const bool base_ok = BasePasses(file.new_path, file.new_name);
+  if (!base_ok) file.new_name = run.Text("run.filename_empty");
+  file.new_path = JoinPath(file.folder, file.new_name);
+  if (run.mode == RunMode::kTest) {
+    run.command = "rem";
+    run.note = run.Text("run.note_test_only");
+    run.test_rows.push_back({file.name, file.new_name, file.folder});
+    return true;
+  }
+  const bool copy = run.mode == RunMode::kCopy;
+  run.command = copy ? "del" : "move";
+  run.note = run.Text(copy ? "run.note_created_copy" : "run.note_renamed");
+  // Where the new name has nothing before its extension nothing is touched,
+  // also in a change of case: the file keeps the name it came with.
+  if (!base_ok) return true;
+  const bool carried = Guarded(run, file.old_path, file.new_path, run.note, [&] {
+    if (copy) return RunCopy(run, file.old_path, file.new_path);
+    if (vb::UCase(file.old_path) == vb::UCase(file.new_path)) {
+      return RunMoveThroughTemporaryName(run, file.old_path, file.new_path);
+    }
+    RunMove(run, file.old_path, file.new_path);
+  });
+  if (!carried) return false;
+  KeepDates(run, file, file.new_path);
+  return true;
+}
+
+void CountFile(RunContext& run, const FileStep& file, bool skipped) {
+  if (file.failed) {
+    ++run.result.failed;
+  } else if (skipped) {
+    ++run.result.skipped;
+  } else {
+    ++run.result.done;
+  }
+}
+
+// Steps 2 to 12 of one file. The pipeline's own questions, and the error
+// handler, may set `CancelRun`.
+void RunFile(RunContext& run, FileStep& file, bool frozen) {
+  AppState& app = run.env.app;
+  const FileList& list = run.env.list;
+  app.CurrentRow = static_cast<std::int32_t>(file.row);
+  file.folder = std::string(list.Folder(file.row));
+  file.name = list.Text(file.row, file_column::kName);
+  file.date = list.Text(file.row, file_column::kDate);
+  file.old_path = JoinPath(file.folder, file.name);
+  if (!Guarded(run, file.old_path, "", run.note, [&] {
+        ResetCounterForRow(app, run.env.settings, run.env.options, file.folder, file.date);
+      })) {
+    file.failed = true;
+  }
+  if (!frozen) ShowCaption(run, file);
+  // The test is on the row's name, not on any field.
+  if (vb::InStr(vb::LCase(file.name), "{{set_jpg_to_exif_originaldate}}") > 0) {
+    run.exif_date = true;
+  }
+  file.new_name = file.name;
+  const ProcessFileResult processed =
+      ProcessFile(run.Pipeline(), file.new_name, file.row, file.folder);
+  if (processed.error) {
+    HandleRunError(run, *processed.error, file.old_path, JoinPath(file.folder, file.new_name),
+                   run.note);
+    file.failed = true;
+    CountFile(run, file, false);
+    --app.RunFileCount;
+    return;
+  }
+  file.new_name = processed.name;
+  bool skipped = file.new_name.empty();
+  bool carried = true;
+  if (skipped) {
+    KeepDates(run, file, file.old_path);
+    --app.RunFileCount;
+  } else if (!app.CancelRun) {
+    carried = CarryOut(run, file);
+    --app.RunFileCount;
+  } else {
+    skipped = true;
+  }
+  if (!carried) {
+    file.failed = true;
+    CountFile(run, file, false);
+    return;
+  }
+  if (file.new_name.empty()) {
+    run.note = run.Text("run.note_file_skipped");
+    file.new_name = file.name;
+  }
+  file.new_path = JoinPath(file.folder, file.new_name);
+  run.log.WriteLogFile(file.old_path, file.new_path, run.note);
+  // Kept: a skipped file's entry takes the command of the file before it.
+  run.undo.WriteUndoEntry(file.old_path, file.new_path, run.command);
+  SettleSteps(run);
+  CountFile(run, file, skipped);
+}
+
+}  // namespace
+
+void RunFiles(RunContext& run) {
+  AppState& app = run.env.app;
+  Interaction& ui = run.env.interaction;
+  for (std::size_t i = 0; i < run.rows.size(); ++i) {
+    const bool frozen = OptionIs(run, "FreezeApp", "1");
+    if ((i + 1) % 5 == 0) ui.Yield();
+    FileStep file;
+    file.index = i;
+    file.row = run.rows[i];
+    RunFile(run, file, frozen);
+    if (ui.PollCancel()) app.CancelRun = true;
+    if (!frozen)
+      ui.ShowProgress(static_cast<std::int64_t>(i + 1), static_cast<std::int64_t>(run.rows.size()));
+    if (app.CancelRun) {
+      run.result.cancelled = true;
+      break;
+    }
+  }
+}
+
+}  // namespace tarnwick
