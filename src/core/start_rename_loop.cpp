@@ -173,6 +173,9 @@ void RunFiles(RunContext& run) {
   AppState& app = run.env.app;
   Interaction& ui = run.env.interaction;
   for (std::size_t i = 0; i < run.rows.size(); ++i) {
+    // The options are read anew for each file, and seen in one state while
+    // it lasts.
+    const OptionStore::Unit unit(run.env.options);
     const bool frozen = OptionIs(run, "FreezeApp", "1");
     if ((i + 1) % 5 == 0) ui.Yield();
     FileStep file;
