@@ -11,9 +11,9 @@
 #include <filesystem>
 #include <string>
 
-#include "filelist/exif_date_source.h"
 #include "filelist/file_list.h"
 #include "filelist/list_loader.h"
+#include "filelist/media_column_source.h"
 #include "filelist/media_source.h"
 #include "media/exif_reader.h"
 #include "persist/option_store.h"
@@ -161,7 +161,7 @@ void BM_FillListView(benchmark::State& state) {
   QuietInteraction ui;
   NoLog log;
   FileRowMediaSource none;
-  ExifDateSource exif;
+  MediaColumnSource exif;
   FileRowMediaSource& media = state.range(0) ? static_cast<FileRowMediaSource&>(exif) : none;
   FileListLoader loader({options, app, ui, log, media, MessageTable::Get(Language::kEnglish)});
   FileList list;

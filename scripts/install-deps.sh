@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that Tarnwick's build, tests and benchmarks need.
+# rename: the Perl rename tool, a peer of the rename run's benchmark.
 # Idempotent: when everything is present it only checks and returns.
 set -euo pipefail
 
@@ -9,6 +10,7 @@ packages=(
   libicu-dev libpcre2-dev libpugixml-dev libssl-dev uuid-dev
   libjpeg62-turbo-dev libpng-dev libtiff-dev libgif-dev
   python3
+  rename
   qt6-base-dev
 )
 

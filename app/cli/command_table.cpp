@@ -10,17 +10,20 @@ extern const Command kOptionsCommand;
 extern const Command kExpandCommand;
 extern const Command kCatalogueCommand;
 extern const Command kListCommand;
-extern const Command kSettingsCommand;
 extern const Command kRunCommand;
 extern const Command kPreviewCommand;
 extern const Command kUndoCommand;
+extern const Command kSettingsCommand;
+extern const Command kTagsCommand;
 extern const Command kExifCommand;
 extern const Command kWmaCommand;
+extern const Command kReportCommand;
 
 std::span<const Command> AllCommands() {
   static const std::array kCommands = {
-      kOptionsCommand, kExpandCommand, kCatalogueCommand, kListCommand, kRunCommand,
-      kPreviewCommand, kUndoCommand,   kSettingsCommand,  kExifCommand, kWmaCommand,
+      kOptionsCommand, kExpandCommand,  kCatalogueCommand, kListCommand,
+      kRunCommand,     kPreviewCommand, kUndoCommand,      kSettingsCommand,
+      kTagsCommand,    kExifCommand,    kWmaCommand,       kReportCommand,
   };
   return kCommands;
 }

@@ -7,7 +7,7 @@
 #include <string>
 
 #include "cli_command.h"
-#include "media/exif_provider.h"
+#include "media/media_readers.h"
 #include "persist/option_store.h"
 #include "placeholders/date_tokens.h"
 #include "placeholders/engine.h"
@@ -139,10 +139,10 @@ int RunExpand(std::span<const std::string> args, CliIo& io) {
   const std::filesystem::path path = std::filesystem::absolute(a.file.empty() ? "." : a.file);
   PlaceholderState state;
   ExpansionContext context;
+  static const MediaReaders media;
+  context.media = &media;
   context.options = &options;
   context.state = &state;
-  const ExifInfoProvider media;
-  context.media = &media;
   const MessageTable& messages = MessageTable::Get(SystemLanguage());
   context.message_text = [&messages](int id) { return std::string(messages.Text(id)); };
   context.now = [fixed] { return fixed ? *fixed : LocalReading(std::time(nullptr)); };

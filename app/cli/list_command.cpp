@@ -6,9 +6,9 @@
 #include "base/utf8.h"
 #include "cli_command.h"
 #include "filelist/column_headings.h"
-#include "filelist/exif_date_source.h"
 #include "filelist/list_loader.h"
-#include "filelist/media_source.h"
+#include "filelist/media_column_source.h"
+#include "json_text.h"
 #include "patient_interaction.h"
 #include "persist/option_store.h"
 #include "platform/files.h"
@@ -94,26 +94,6 @@ std::string TsvField(std::string_view text) {
   return out;
 }
 
-// A JSON string; bytes that are not UTF-8 become U+FFFD.
-std::string JsonString(std::string_view text) {
-  std::string out = "\"";
-  for (const utf8::Char c : utf8::Chars(text)) {
-    if (!c.valid) {
-      out += "\xEF\xBF\xBD";
-    } else if (c.code_point == '"' || c.code_point == '\\') {
-      out += '\\';
-      out += static_cast<char>(c.code_point);
-    } else if (c.code_point < 0x20) {
-      char escaped[8];
-      std::snprintf(escaped, sizeof escaped, "\\u%04x", static_cast<unsigned>(c.code_point));
-      out += escaped;
-    } else {
-      utf8::AppendCodePoint(out, c.code_point);
-    }
-  }
-  return out + "\"";
-}
-
 void PrintTsv(const FileList& list, const std::array<std::string, file_column::kCount>& headings,
               std::ostream& out) {
   for (int c = 0; c < file_column::kCount; ++c) {
@@ -151,7 +131,7 @@ int RunList(std::span<const std::string> args, CliIo& io) {
   TakeViewFlags(options, state);
   PatientInteraction ui(CliOptions{});
   StderrLog log(io.err);
-  ExifDateSource media;
+  MediaColumnSource media;
   const MessageTable& messages = MessageTable::Get(SystemLanguage());
   FileListLoader loader({options, state, ui, log, media, messages});
   FileList list;

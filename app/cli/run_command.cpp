@@ -10,12 +10,12 @@
 #include "base/clock.h"
 #include "base/path_text.h"
 #include "cli_command.h"
-#include "core/journal.h"
 #include "core/journal_recovery.h"
 #include "core/rename_settings.h"
 #include "core/start_rename.h"
 #include "filelist/list_loader.h"
-#include "filelist/media_source.h"
+#include "filelist/media_column_source.h"
+#include "media/media_readers.h"
 #include "patient_interaction.h"
 #include "persist/default_paths.h"
 #include "persist/log_file.h"
@@ -91,8 +91,7 @@ void SelectRows(FileList& list, const std::string& glob) {
 // Journals of runs that were killed: their batches are completed before a
 // new run saves or replaces them.
 void CompleteKilledRuns(const OptionStore& options, const LogUndoState& state, CliIo& io) {
-  for (const JournalRecovery& done :
-       CompleteInterruptedRuns(JournalsInFolder(UndoFolderPath(options, state)))) {
+  for (const JournalRecovery& done : CompleteInterruptedRunsAtStart(options, state)) {
     if (done.outcome == JournalRecovery::Outcome::kCompleted) {
       io.err << kProgramName
              << ": completed the undo batch of an interrupted run: " << done.batch_path << '\n';
@@ -139,7 +138,8 @@ int RunCommand(std::span<const std::string> raw, CliIo& io, bool preview) {
   CompleteKilledRuns(options, log_undo, io);
 
   FillLog fill_log(io.err);
-  FileRowMediaSource media;
+  MediaColumnSource media;
+  const MediaReaders readers;
   FileListLoader loader({options, app, ui, fill_log, media, messages});
   FileList list;
   RenameRunResult result;
@@ -148,7 +148,7 @@ int RunCommand(std::span<const std::string> raw, CliIo& io, bool preview) {
     loader.FillListView(list, {folder, args.subfolders || Ticked(settings.chkIncludeSubfolders)});
     if (app.CancelRun) return Failure(io, "cancelled while reading the folder");
     SelectRows(list, args.select);
-    result = StartRename({app, settings, list, options, ui, messages, clock, log_undo});
+    result = StartRename({app, settings, list, options, ui, messages, clock, log_undo, readers});
   }
   ui.HideProgress();
   if (result.stopped && !result.cancelled) return kExitStopped;
@@ -206,6 +206,13 @@ constexpr std::string_view kRunDetails =
     "2 bad arguments, 3 a check before the first file stopped the run (its\n"
     "message on standard error).\n";
 
+constexpr std::string_view kPreviewDetails =
+    "Takes the arguments of run except --mode (see 'tarnwick-cli run --help').\n"
+    "No file is changed; the log and the undo batch get the test's entries\n"
+    "(comment lines) as the options say. One line per file on standard\n"
+    "output: present name, a tab, new name, a tab, folder. Exit status as for\n"
+    "run.\n";
+
 }  // namespace
 
 extern const Command kRunCommand = {
@@ -220,7 +227,7 @@ extern const Command kPreviewCommand = {
     .name = "preview",
     .summary = "show the new names a run would give, changing nothing",
     .forms = kPreviewForms,
-    .details = kRunDetails,
+    .details = kPreviewDetails,
     .run = RunPreview,
 };
 

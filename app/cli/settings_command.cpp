@@ -10,6 +10,9 @@
 #include "cli_command.h"
 #include "core/rename_settings.h"
 #include "core/settings_file.h"
+#include "persist/default_paths.h"
+#include "persist/log_file.h"
+#include "persist/log_options.h"
 #include "persist/log_undo_env.h"
 #include "persist/log_undo_state.h"
 #include "persist/option_store.h"
@@ -32,6 +35,11 @@ struct World {
   SystemClock clock;
   CliInteraction interaction{CliOptions{}};
   LogUndoEnv env{options, interaction, MessageTable::Get(SystemLanguage()), clock, app, state};
+  // The log line of a save goes where the window's would.
+  World() {
+    RunLog log(env);
+    CreateDefaultPaths(env, log, UserDataBaseFolder(), UserDataFallbackFolder());
+  }
 };
 
 struct WriteArgs {
@@ -88,14 +96,15 @@ int Write(std::span<const std::string> args, CliIo& io) {
     }
   }
   for (const auto& [name, value] : parsed.sets) SetRenameSetting(settings, name, value);
-  if (parsed.has_save_path) world.app.CurrentPath = parsed.save_path;
+  if (parsed.has_save_path) world.app.CurrentPath = AbsolutePath(parsed.save_path);
   const SaveSettingsResult result =
       SaveSettingsTo(world.env, settings, parsed.out, parsed.has_save_path);
   if (result.outcome == SaveSettingsResult::Outcome::kFailed) {
     return Failure(io, "cannot write " + result.path + ": " + result.error);
   }
   if (result.outcome == SaveSettingsResult::Outcome::kCancelled) {
-    return Failure(io, "not saved: the folder " + parsed.save_path + " does not exist");
+    return Failure(io,
+                   "not saved: the folder " + parsed.save_path + " does not exist");  // answered No
   }
   return kExitOk;
 }
@@ -151,9 +160,9 @@ constexpr std::string_view kDetails =
     "write: a text field that ends in blanks is saved with one {{space}} per blank\n"
     "of the whole field, and a note says so on standard error. The action order is\n"
     "taken from the options. The file's folder is stored in SavePathIni and the\n"
-    "log gets a line, as when saving from the window. A --save-path folder that does\n"
-    "not exist is left out after the question \"Continue saving without path?\",\n"
-    "whose default answer (No) leaves the file unwritten.\n"
+    "log gets a line, as when saving from the window. A --save-path folder that\n"
+    "does not exist brings the question \"Continue saving without path?\"; its\n"
+    "default answer, Yes, writes the file without a folder.\n"
     "\n"
     "show: the text is printed in UTF-8; a file that cannot be unscrambled and\n"
     "parsed is an error.\n"

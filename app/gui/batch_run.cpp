@@ -1,4 +1,5 @@
 #include "core/start_rename.h"
+#include "media/media_readers.h"
 #include "persist/log_undo_env.h"
 #include "unattended_start.h"
 
@@ -9,8 +10,9 @@ namespace tarnwick::gui {
 // not filled again.
 BatchRunOutcome RunBatchRename(const LogUndoEnv& env, RenameSettings& settings, FileList& list,
                                FileListLoader& loader) {
-  const RenameRunResult result = StartRename(
-      {env.app, settings, list, env.options, env.interaction, env.messages, env.clock, env.state});
+  const MediaReaders media;
+  const RenameRunResult result = StartRename({env.app, settings, list, env.options, env.interaction,
+                                              env.messages, env.clock, env.state, media});
   BatchRunOutcome outcome;
   outcome.ran = true;
   outcome.stopped = result.stopped && !result.cancelled;

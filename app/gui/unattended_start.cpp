@@ -36,6 +36,11 @@ int ExitStatus(const StartupResult& result, std::ostream& err) {
         << " could not be applied; nothing was renamed\n";
     return kExitBadStart;
   }
+  if (result.settings_load.folder_gone) {
+    err << "tarnwick: the folder saved in " << result.command_line.settings_file
+        << " is gone; nothing was renamed\n";
+    return kExitBadStart;
+  }
   const BatchRunOutcome& batch = result.batch;
   if (batch.stopped) {
     err << "tarnwick: the run was stopped: " << batch.stop_message << '\n';

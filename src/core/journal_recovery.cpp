@@ -6,8 +6,10 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "core/journal.h"
 #include "core/journal_format.h"
 #include "persist/log_append.h"
+#include "persist/log_options.h"
 #include "persist/undo_line.h"
 #include "platform/files.h"
 
@@ -43,15 +45,28 @@ std::string ReadFileBytes(const std::string& path) {
   return bytes;
 }
 
-// The name at which the moves of one file left it: each move that the disk
-// shows as done (its source gone, its target there) carries it one step on.
+// The name at which the moves of one file left it. A step whose source is
+// gone was carried out: the file went to its target, and perhaps on from
+// there by the next step (the second move of a change of case). A source
+// still there means the file stopped at it. Where the chain ends at a name
+// nothing has, the file's place is unknown and the old name is given, so no
+// line is made up.
 const std::string& WhereMovesLeftIt(const std::vector<JournalStep>& steps) {
   const std::string* at = &steps.front().from;
   for (const JournalStep& step : steps) {
-    if (step.from != *at || NameTaken(step.from) || !NameTaken(step.to)) break;
+    if (step.from != *at || NameTaken(step.from)) break;
     at = &step.to;
   }
-  return *at;
+  return NameTaken(*at) ? *at : steps.front().from;
+}
+
+// Whether `copy` is the copy the run made of `source`: a copy keeps the
+// size and the last-write time of its source. A file of that name that some
+// other program put there in the meantime is not deleted by the undo.
+bool LooksLikeCopyOf(const std::string& copy, const std::string& source) {
+  struct stat a, b;
+  if (::lstat(copy.c_str(), &a) != 0 || ::stat(source.c_str(), &b) != 0) return false;
+  return S_ISREG(a.st_mode) && a.st_size == b.st_size && a.st_mtim.tv_sec == b.st_mtim.tv_sec;
 }
 
 // The undo line the file the run stopped at still needs, if any.
@@ -59,7 +74,7 @@ std::optional<std::string> MissingLine(const std::vector<JournalStep>& steps) {
   if (steps.empty()) return std::nullopt;
   const JournalStep& first = steps.front();
   if (first.kind == JournalStepKind::kCopy) {
-    if (!NameTaken(first.to)) return std::nullopt;
+    if (!LooksLikeCopyOf(first.to, first.from)) return std::nullopt;
     return UndoEntryLine(first.from, first.to, "del");
   }
   const std::string& now = WhereMovesLeftIt(steps);
@@ -84,8 +99,15 @@ FileStatus AddMissingLine(const JournalContent& content, JournalRecovery& result
   return status;
 }
 
+// A run killed before it started its batch anew left the batch as the
+// older runs' copy has it: nothing is to be put behind it.
+bool BatchIsOlderRuns(const JournalContent& content, std::string_view batch_bytes) {
+  return !content.finish_size && batch_bytes == ReadFileBytes(content.older_copy);
+}
+
 FileStatus AppendOlderRuns(const JournalContent& content, JournalRecovery& result) {
   if (content.older_copy.empty() || !FileExists(content.older_copy)) return FileStatus::Success();
+  if (BatchIsOlderRuns(content, ReadFileBytes(content.batch_path))) return FileStatus::Success();
   if (content.finish_size &&
       ::truncate(content.batch_path.c_str(), static_cast<off_t>(*content.finish_size)) != 0) {
     return FileStatus::Error(vb_error::kPermissionDenied);
@@ -119,6 +141,7 @@ std::string PreviewCompletedBatch(const std::filesystem::path& journal, std::str
   const std::optional<std::string> line = MissingLine(content.open_steps);
   if (line && LastLine(batch_bytes) != *line) batch_bytes += *line + std::string(kLineEnd);
   if (content.older_copy.empty() || !FileExists(content.older_copy)) return batch_bytes;
+  if (BatchIsOlderRuns(content, batch_bytes)) return batch_bytes;
   if (content.finish_size && *content.finish_size < batch_bytes.size()) {
     batch_bytes.resize(*content.finish_size);
   }
@@ -157,6 +180,11 @@ std::vector<JournalRecovery> CompleteInterruptedRuns(
   std::vector<JournalRecovery> results;
   for (const auto& journal : journals) results.push_back(CompleteInterruptedRun(journal));
   return results;
+}
+
+std::vector<JournalRecovery> CompleteInterruptedRunsAtStart(const OptionStore& options,
+                                                            const LogUndoState& state) {
+  return CompleteInterruptedRuns(JournalsInFolder(UndoFolderPath(options, state)));
 }
 
 }  // namespace tarnwick

@@ -8,6 +8,9 @@
 
 namespace tarnwick {
 
+class OptionStore;
+struct LogUndoState;
+
 // What became of one journal left behind by a run.
 struct JournalRecovery {
   enum class Outcome {
@@ -48,5 +51,11 @@ std::string PreviewCompletedBatch(const std::filesystem::path& journal, std::str
 // Completes each journal of the list in turn (see journal.h for finding them).
 std::vector<JournalRecovery> CompleteInterruptedRuns(
     const std::vector<std::filesystem::path>& journals);
+
+// At start-up, after CreateDefaultPaths and before the first run: completes
+// the journals left in the undo folder (`UndoFilePath`) by runs that were
+// killed.
+std::vector<JournalRecovery> CompleteInterruptedRunsAtStart(const OptionStore& options,
+                                                            const LogUndoState& state);
 
 }  // namespace tarnwick

@@ -69,6 +69,8 @@ struct LoadSettingsResult {
   // After a default settings file: "Current loaded default settings file: NAME".
   std::string default_file_label;
   std::string error;  // with kFailed: the description shown
+  // The file saved a folder that is gone: the list moved to the root.
+  bool folder_gone = false;
 };
 
 // Applies a settings file without asking: every item of `Defaults` onto
@@ -78,7 +80,9 @@ struct LoadSettingsResult {
 // CurrentFilter), with the message when the saved folder is gone. Raises
 // VbError when the file cannot be read or parsed; what was applied until then
 // stays. Callers that report errors use LoadSettingsFile.
-void ApplySettingsFile(const LogUndoEnv& env, std::string_view path, RenameSettings& settings);
+// Returns false when the file saved a folder that is gone (the list then
+// shows the root).
+bool ApplySettingsFile(const LogUndoEnv& env, std::string_view path, RenameSettings& settings);
 
 // Applies the file as the menu command does: ApplySettingsFile, the frame
 // caption, `SavePathIni`, the log line "Load settings"; on an error the log

@@ -68,12 +68,13 @@ void ApplyFilter(const XMLConfiguration& file, RenameSettings& settings, AppStat
   app.CurrentFilter = filter;
 }
 
-void ApplyFolder(const LogUndoEnv& env, const XMLConfiguration& file, RenameSettings& settings) {
+// False when the saved folder is gone.
+bool ApplyFolder(const LogUndoEnv& env, const XMLConfiguration& file, RenameSettings& settings) {
   const std::string folder = file.ReadValue(kDefaultsSection, "CurrentDir");
-  if (folder.empty()) return;
+  if (folder.empty()) return true;
   if (FolderExists(folder)) {
     env.app.CurrentPath = folder;
-    return;
+    return true;
   }
   MessageBoxRequest box;
   box.title = env.messages.Text("settings_file.title_folder");
@@ -84,11 +85,12 @@ void ApplyFolder(const LogUndoEnv& env, const XMLConfiguration& file, RenameSett
   env.app.CurrentPath = RootOf(folder);
   env.app.CurrentFilter = kAllFiles;
   settings.cboExtension = kAllFiles;
+  return false;
 }
 
 }  // namespace
 
-void ApplySettingsFile(const LogUndoEnv& env, std::string_view path, RenameSettings& settings) {
+bool ApplySettingsFile(const LogUndoEnv& env, std::string_view path, RenameSettings& settings) {
   XMLConfiguration file;
   file.Encryption(true);
   // A missing file would read as a file of empty items and clear every
@@ -100,7 +102,7 @@ void ApplySettingsFile(const LogUndoEnv& env, std::string_view path, RenameSetti
   ApplyActionOrder(file, env.options);
   ApplyRadioGroups(file, settings);
   ApplyFilter(file, settings, env.app);
-  ApplyFolder(env, file, settings);
+  return ApplyFolder(env, file, settings);
 }
 
 }  // namespace tarnwick

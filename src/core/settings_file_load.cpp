@@ -49,7 +49,7 @@ LoadSettingsResult LoadSettingsFile(const LogUndoEnv& env, std::string_view path
   LoadSettingsResult result;
   result.path = AbsolutePath(path);
   try {
-    ApplySettingsFile(env, result.path, settings);
+    result.folder_gone = !ApplySettingsFile(env, result.path, settings);
   } catch (const VbError& error) {
     ReportLoadError(env, error);
     result.outcome = Outcome::kFailed;

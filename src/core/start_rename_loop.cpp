@@ -109,7 +109,7 @@ void CountFile(RunContext& run, const FileStep& file, bool skipped) {
 
 // Steps 2 to 12 of one file. The pipeline's own questions, and the error
 // handler, may set `CancelRun`.
-void RunFile(RunContext& run, FileStep& file) {
+void RunFile(RunContext& run, FileStep& file, bool frozen) {
   AppState& app = run.env.app;
   const FileList& list = run.env.list;
   app.CurrentRow = static_cast<std::int32_t>(file.row);
@@ -122,7 +122,7 @@ void RunFile(RunContext& run, FileStep& file) {
       })) {
     file.failed = true;
   }
-  if (!OptionIs(run, "FreezeApp", "1")) ShowCaption(run, file);
+  if (!frozen) ShowCaption(run, file);
   // The test is on the row's name, not on any field.
   if (vb::InStr(vb::LCase(file.name), "{{set_jpg_to_exif_originaldate}}") > 0) {
     run.exif_date = true;
@@ -172,13 +172,16 @@ void RunFile(RunContext& run, FileStep& file) {
 void RunFiles(RunContext& run) {
   AppState& app = run.env.app;
   Interaction& ui = run.env.interaction;
-  const bool frozen = OptionIs(run, "FreezeApp", "1");
   for (std::size_t i = 0; i < run.rows.size(); ++i) {
+    // The options are read anew for each file, and seen in one state while
+    // it lasts.
+    const OptionStore::Unit unit(run.env.options);
+    const bool frozen = OptionIs(run, "FreezeApp", "1");
     if ((i + 1) % 5 == 0) ui.Yield();
     FileStep file;
     file.index = i;
     file.row = run.rows[i];
-    RunFile(run, file);
+    RunFile(run, file, frozen);
     if (ui.PollCancel()) app.CancelRun = true;
     if (!frozen)
       ui.ShowProgress(static_cast<std::int64_t>(i + 1), static_cast<std::int64_t>(run.rows.size()));

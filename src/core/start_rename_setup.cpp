@@ -69,13 +69,15 @@ void SetUpRun(RunContext& run) {
   Guarded(run, "", "", "", [&] { SortForCounterResets(run); });
   ResetManualRenameCursor(env.options);
   run.exif_date = env.options.GetOption("UseEXIFDate", "Options", "0") == "1";
+  // Before the batch is started anew: from here on a kill still leaves the
+  // older runs a way back behind this run's lines.
+  BeginJournal(run);
   WriteRunHeaders(run.log, run.undo, static_cast<int>(run.selected_count),
                   env.settings.optCopyRename);
   Guarded(run, "", "", "", [&] { BuildRandomPool(run); });
   run.rows = env.list.SelectedRows();
   env.interaction.ShowProgress(0, static_cast<std::int64_t>(run.rows.size()));
   run.log.LogRenameSettingsSnapshot(SnapshotOf(env.settings));
-  BeginJournal(run);
 }
 
 }  // namespace tarnwick

@@ -44,7 +44,7 @@ std::string ExifReportHeader(const MessageTable& messages) {
   return header + std::string(kHeaderTags);
 }
 
-std::string ExifReportLine(ExifReader& reader, const ExifReportRow& row) {
+std::string ExifReportLine(ExifReader& reader, const ReportRow& row) {
   const std::string path = JoinPath(row.folder, row.name);
   const auto size = ReadPictureSize(path);
   std::string line = row.name + ";" + row.size + ";" + row.folder + ";";
@@ -59,7 +59,7 @@ std::string ExifReportLine(ExifReader& reader, const ExifReportRow& row) {
   return line;
 }
 
-bool WriteExifReport(const std::filesystem::path& out, std::span<const ExifReportRow> rows,
+bool WriteExifReport(const std::filesystem::path& out, std::span<const ReportRow> rows,
                      ExifReader& reader, const MessageTable& messages,
                      const ReportProgress& progress) {
   std::ofstream file(out, std::ios::binary | std::ios::trunc);

@@ -5,18 +5,12 @@
 #include <span>
 #include <string>
 
+#include "media/report_row.h"
+
 namespace tarnwick {
 
 class ExifReader;
 class MessageTable;
-
-// One selected row of the list as the report shows it: the file's name, its
-// size text and its folder.
-struct ExifReportRow {
-  std::string name;
-  std::string size;
-  std::string folder;
-};
 
 // Asked before each row with its place (from 1) and the count; false stops
 // the report after the rows written so far.
@@ -27,11 +21,11 @@ std::string ExifReportHeader(const MessageTable& messages);
 
 // The line of one picture: name, size, folder, "width x height", and the
 // values of the 54 tags ("n/a" where a value is missing), joined by ";".
-std::string ExifReportLine(ExifReader& reader, const ExifReportRow& row);
+std::string ExifReportLine(ExifReader& reader, const ReportRow& row);
 
 // `mnuSaveJPEGEXIFInfo`: writes the header and one line per row to `out`,
 // each ended by CR LF. False when the file cannot be written.
-bool WriteExifReport(const std::filesystem::path& out, std::span<const ExifReportRow> rows,
+bool WriteExifReport(const std::filesystem::path& out, std::span<const ReportRow> rows,
                      ExifReader& reader, const MessageTable& messages,
                      const ReportProgress& progress = {});
 

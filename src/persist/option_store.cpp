@@ -16,6 +16,9 @@ struct OptionStore::Impl {
   // Brings the cached document up to date with the file on disk. One stat()
   // when nothing changed.
   void Refresh() const {
+    // Within one unit of work the file was checked already.
+    if (units > 0 && checked_in_unit && loaded && !racy) return;
+    checked_in_unit = true;
     const OptionFileIdentity now = StatOptionFile(file);
     if (loaded && !racy && now == identity) return;
     OptionFileContent content = ReadOptionFile(file);
@@ -61,6 +64,10 @@ struct OptionStore::Impl {
   mutable bool racy = false;
   // Values of this process only, read before the file's.
   IniDocument overrides;
+  // Open units of work (OptionStore::Unit), and whether the file has been
+  // checked for changes since the outermost one began.
+  mutable int units = 0;
+  mutable bool checked_in_unit = false;
 };
 
 void OptionStore::SetOverride(std::string_view name, std::string_view section,
@@ -68,6 +75,18 @@ void OptionStore::SetOverride(std::string_view name, std::string_view section,
   if (!impl_ || name.empty()) return;
   const std::lock_guard guard(impl_->mutex);
   impl_->overrides.Set(section, name, value);
+}
+
+OptionStore::Unit::Unit(const OptionStore& store) : store_(store) {
+  if (!store_.impl_) return;
+  const std::lock_guard guard(store_.impl_->mutex);
+  if (store_.impl_->units++ == 0) store_.impl_->checked_in_unit = false;
+}
+
+OptionStore::Unit::~Unit() {
+  if (!store_.impl_) return;
+  const std::lock_guard guard(store_.impl_->mutex);
+  --store_.impl_->units;
 }
 
 OptionStore OptionStore::ForCurrentUser() { return OptionStore(DefaultFile()); }

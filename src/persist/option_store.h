@@ -46,6 +46,21 @@ class OptionStore {
   // SaveOption still writes the file and leaves the override in place.
   void SetOverride(std::string_view name, std::string_view section, std::string_view value);
 
+  // One unit of work, such as one file of a rename run: while it lasts, the
+  // file is checked for changes by other processes once, at the first read,
+  // and every read sees that state (and this store's own writes). The next
+  // unit sees any change made in between. Units may nest.
+  class Unit {
+   public:
+    explicit Unit(const OptionStore& store);
+    ~Unit();
+    Unit(const Unit&) = delete;
+    Unit& operator=(const Unit&) = delete;
+
+   private:
+    const OptionStore& store_;
+  };
+
   // Removes a whole section with every key in it (crash recovery deletes
   // "Options"). Returns false only when the file could not be rewritten.
   bool DeleteSection(std::string_view section);

@@ -104,10 +104,6 @@ std::string ReadWholeFile(const std::string& path, bool& ok) {
 
 struct XMLConfiguration::Document {
   pugi::xml_document doc;
-  // Whether the last parse failed, with its code and reason.
-  bool parse_failed = false;
-  int parse_status = 0;
-  std::string parse_reason;
 
   pugi::xml_node Root() const {
     const pugi::xml_node root = doc.document_element();
@@ -121,17 +117,25 @@ XMLConfiguration::~XMLConfiguration() = default;
 
 void XMLConfiguration::Raise(int number, std::string_view description) const {
   const std::string number_text = std::to_string(number);
-  if (document_ && document_->parse_failed) {
-    const std::string code = std::to_string(document_->parse_status);
-    throw VbError(number, FillMessage(kParseErrorTemplate,
-                                      {number_text, description, code, document_->parse_reason}));
+  if (parse_failed_) {
+    const std::string code = std::to_string(parse_status_);
+    throw VbError(
+        number, FillMessage(kParseErrorTemplate, {number_text, description, code, parse_reason_}));
   }
   throw VbError(number, FillMessage(kErrorTemplate, {number_text, description}));
+}
+
+void XMLConfiguration::FailParse(int status, std::string reason) {
+  parse_failed_ = true;
+  parse_status_ = status;
+  parse_reason_ = std::move(reason);
+  document_.reset();
 }
 
 bool XMLConfiguration::LoadConfigurationFile(std::string_view path, bool create) {
   path_ = std::string(path);
   document_.reset();
+  parse_failed_ = false;
   if (!FileExists(path_)) {
     if (!create) return false;
     document_ = std::make_unique<Document>();
@@ -150,9 +154,7 @@ bool XMLConfiguration::LoadConfigurationFile(std::string_view path, bool create)
   if (!read) Raise(vb_error::kPathFileAccessError, "Path/File access error");
   document_ = std::make_unique<Document>();
   if (bytes.size() > kMaxFileBytes) {
-    document_->parse_failed = true;
-    document_->parse_status = pugi::status_out_of_memory;
-    document_->parse_reason = "File too large";
+    FailParse(pugi::status_out_of_memory, "File too large");
     Raise(kXmlReadConfigurationError, kXmlReadConfigurationText);
   }
   if (encryption_) {
@@ -167,11 +169,10 @@ bool XMLConfiguration::LoadConfigurationFile(std::string_view path, bool create)
   const pugi::xml_parse_result result =
       document_->doc.load_buffer(text.data(), text.size(), kParseFlags, pugi::encoding_utf8);
   if (!result || !HasSingleRoot(document_->doc) || HasTextOutsideMarkup(text)) {
-    document_->parse_failed = true;
-    document_->parse_status = result ? -1 : static_cast<int>(result.status);
-    document_->parse_reason =
-        result ? "Only one top level element is allowed in an XML document"
-               : std::string(result.description()) + " at offset " + std::to_string(result.offset);
+    FailParse(
+        result ? -1 : static_cast<int>(result.status),
+        result ? "A document has one root element and no text beside it"
+               : std::string(result.description()) + " at offset " + std::to_string(result.offset));
     Raise(kXmlReadConfigurationError, kXmlReadConfigurationText);
   }
   RestoreTopLevelLayout(document_->doc);
@@ -180,43 +181,44 @@ bool XMLConfiguration::LoadConfigurationFile(std::string_view path, bool create)
 
 namespace {
 
-// The single node the lookup expression selects. The names go into the
-// expression as they are: a double quote in one breaks it, and that raises.
-pugi::xml_node SelectNode(const pugi::xml_document& doc, const std::string& expression,
-                          std::string& error) {
-  try {
-    const pugi::xpath_query query(expression.c_str());
-    if (!query.result()) {
-      error = query.result().description();
-      return {};
-    }
-    return query.evaluate_node(doc).node();
-  } catch (const pugi::xpath_exception& exception) {
-    error = exception.what();
-    return {};
+// The lookup of the older program built an expression from the names as
+// they are, so a double quote in one broke it; that still raises.
+constexpr std::string_view kBrokenLookup = "Expected ']' in the lookup of a name with a quote";
+
+bool BreaksLookup(std::string_view name) { return name.find('"') != std::string_view::npos; }
+
+bool Named(const pugi::xml_node& node, std::string_view element, std::string_view name) {
+  return node.type() == pugi::node_element && element == node.name() &&
+         name == node.attribute("name").value();
+}
+
+// The first child of `parent` that is `element` with attribute name = `name`.
+pugi::xml_node FindNamed(const pugi::xml_node& parent, std::string_view element,
+                         std::string_view name) {
+  for (const pugi::xml_node child : parent.children()) {
+    if (Named(child, element, name)) return child;
   }
-}
-
-std::string SectionExpression(std::string_view section) {
-  return "//configuration/section[@name=\"" + std::string(section) + "\"]";
-}
-
-std::string ItemExpression(std::string_view item) {
-  return "item[@name=\"" + std::string(item) + "\"]";
+  return {};
 }
 
 }  // namespace
 
 std::string XMLConfiguration::ReadValue(std::string_view section, std::string_view item) const {
-  if (!document_ || !document_->Root()) return {};
-  std::string error;
-  const pugi::xml_node node =
-      SelectNode(document_->doc, SectionExpression(section) + "/" + ItemExpression(item), error);
-  if (!error.empty()) Raise(vb_error::kInvalidProcedureCall, error);
-  if (!node) return {};
-  const pugi::xml_attribute value = node.attribute("value");
-  if (!value) return {};
-  return value.value();
+  if (!document_) return {};
+  const pugi::xml_node root = document_->Root();
+  if (!root) return {};
+  if (BreaksLookup(section) || BreaksLookup(item)) {
+    Raise(vb_error::kInvalidProcedureCall, kBrokenLookup);
+  }
+  // The first item of that name in any section of that name, in file order.
+  for (const pugi::xml_node section_node : root.children()) {
+    if (!Named(section_node, "section", section)) continue;
+    const pugi::xml_node node = FindNamed(section_node, "item", item);
+    if (!node) continue;
+    const pugi::xml_attribute value = node.attribute("value");
+    return value ? value.value() : "";
+  }
+  return {};
 }
 
 void XMLConfiguration::WriteValue(std::string_view section, std::string_view item,
@@ -224,21 +226,17 @@ void XMLConfiguration::WriteValue(std::string_view section, std::string_view ite
   if (!document_) return;
   pugi::xml_node root = document_->Root();
   if (!root) return;
-  std::string error;
-  pugi::xml_node section_node = SelectNode(document_->doc, SectionExpression(section), error);
-  if (!error.empty()) Raise(vb_error::kInvalidProcedureCall, error);
+  if (BreaksLookup(section) || BreaksLookup(item)) {
+    Raise(vb_error::kInvalidProcedureCall, kBrokenLookup);
+  }
+  pugi::xml_node section_node = FindNamed(root, "section", section);
   if (!section_node) {
     AppendText(root, kBeforeSection);
     section_node = root.append_child("section");
     section_node.append_attribute("name") = std::string(section).c_str();
     AppendText(root, kAfterSection);
   }
-  pugi::xml_node item_node;
-  try {
-    item_node = section_node.select_node(ItemExpression(item).c_str()).node();
-  } catch (const pugi::xpath_exception& exception) {
-    Raise(vb_error::kInvalidProcedureCall, exception.what());
-  }
+  pugi::xml_node item_node = FindNamed(section_node, "item", item);
   if (!item_node) {
     const bool first = !section_node.child("item");
     AppendText(section_node, first ? kBeforeFirstItem : kBeforeItem);

@@ -73,8 +73,10 @@ class XMLConfiguration {
   // raises kXmlReadConfigurationError. True when the document is usable.
   bool LoadConfigurationFile(std::string_view path, bool create);
 
-  // The value of `item` in `section`; empty when the document, the root, the
-  // section, the item or its value is missing. A name holding a double quote
+  // The value of `item` in `section` (the first item of that name in a
+  // section of that name, among the root's sections in file order); empty
+  // when the document, the root, the section, the item or its value is
+  // missing. A name holding a double quote
   // breaks the lookup expression and raises.
   std::string ReadValue(std::string_view section, std::string_view item) const;
 
@@ -99,11 +101,17 @@ class XMLConfiguration {
   struct Document;
 
   [[noreturn]] void Raise(int number, std::string_view description) const;
+  // A parse that failed: its code and reason go into the error, and the
+  // document is dropped, so nothing is read from half a file.
+  void FailParse(int status, std::string reason);
 
   std::string path_;
   std::string key_;
   bool encryption_ = false;
   std::unique_ptr<Document> document_;
+  bool parse_failed_ = false;
+  int parse_status_ = 0;
+  std::string parse_reason_;
 };
 
 // The scrambling step, the same both ways: byte i XOR key character

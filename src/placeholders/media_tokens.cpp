@@ -58,7 +58,6 @@ constexpr TagToken kTagTokens[] = {
      ""},
     {"{{mp3idtagv2_involvedpeople}}", TagKind::kV2Plain, "involvedpeople", ""},
     {"{{mp3idtagv2_isrc}}", TagKind::kV2Plain, "isrc", ""},
-    {"{{mp3idtagv2_language}}", TagKind::kV2Plain, "language", ""},
     {"{{mp3idtagv2_linkartistwebpage}}", TagKind::kV2Plain, "linkartistwebpage", ""},
     {"{{mp3idtagv2_linkaudiofilewebpage}}", TagKind::kV2Plain, "linkaudiofilewebpage", ""},
     {"{{mp3idtagv2_linkaudiosourcewebpage}}", TagKind::kV2Plain, "linkaudiosourcewebpage", ""},

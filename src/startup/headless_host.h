@@ -4,7 +4,7 @@
 
 #include "filelist/file_list.h"
 #include "filelist/list_loader.h"
-#include "filelist/media_source.h"
+#include "filelist/media_column_source.h"
 #include "persist/log_file.h"
 #include "startup/startup_host.h"
 
@@ -45,7 +45,7 @@ class HeadlessStartupHost : public StartupHost {
   const RenameSettings& settings_;
   BatchRunner run_batch_;
   FillLog fill_log_;
-  FileRowMediaSource media_;
+  MediaColumnSource media_;
   FileList list_;
   FileListLoader loader_;
 };

@@ -8,7 +8,6 @@
 #include "base/vb_date_text.h"
 #include "base/vb_error.h"
 #include "base/vb_number.h"
-#include "core/journal.h"
 #include "persist/crash_recovery.h"
 #include "persist/default_paths.h"
 #include "persist/log_date_text.h"
@@ -187,8 +186,7 @@ void Sequence::OpenSplash() {
 
 void Sequence::MakeFolders() {
   CreateDefaultPaths(env_, log_, input_.data_base_folder, input_.data_fallback_folder);
-  result_.journals =
-      CompleteInterruptedRuns(JournalsInFolder(UndoFolderPath(env_.options, env_.state)));
+  result_.journals = CompleteInterruptedRunsAtStart(env_.options, env_.state);
   for (const JournalRecovery& recovery : result_.journals) {
     const bool completed = recovery.outcome == JournalRecovery::Outcome::kCompleted;
     if (!completed && recovery.outcome != JournalRecovery::Outcome::kFailed) continue;
@@ -264,8 +262,11 @@ void Sequence::ObeyCommandLine() {
   if (line.batch) {
     Status(Text("startup.processing_batch"));
     env_.app.BatchMode = true;
-    // A run with controls the file did not set could rename the wrong files.
-    if (!result_.settings_failed) result_.batch = host_.RunBatch();
+    // A run with controls the file did not set, or in the root the list
+    // fell back to, could rename the wrong files.
+    if (!result_.settings_failed && !result_.settings_load.folder_gone) {
+      result_.batch = host_.RunBatch();
+    }
     MarkStartFinished(env_);
     host_.UnloadMainWindow();
     result_.outcome = Outcome::kBatchDone;

@@ -67,7 +67,7 @@ struct StartupResult {
 // ends start-up (the process then ends, and the next start resets the
 // options). In an unattended run the rest of start-up is skipped after the
 // run; a run is not begun when the command line's settings file could not be
-// applied.
+// applied or the folder it saved is gone.
 StartupResult RunStartup(const LogUndoEnv& env, RenameSettings& settings, StartupHost& host,
                          const StartupInput& input);
 

@@ -55,6 +55,16 @@ TEST(CliCatalogueTest, SearchNarrowsLikeThePicker) {
   EXPECT_THAT(none.err, HasSubstr("no placeholder matches"));
 }
 
+// The rows without the current clock's samples, which move between two runs.
+std::string WithoutClockRows(const std::string& text) {
+  std::string kept;
+  for (const std::string& line : Lines(text)) {
+    if (line.starts_with("{{ctime") || line.starts_with("{{cdate")) continue;
+    kept += line + "\n";
+  }
+  return kept;
+}
+
 TEST(CliCatalogueTest, LanguageFollowsTheSystemUnlessGiven) {
   CliRunner cli;
   cli.SetEnv("LC_ALL", "de_DE.UTF-8");
@@ -62,7 +72,8 @@ TEST(CliCatalogueTest, LanguageFollowsTheSystemUnlessGiven) {
   const std::string english = cli.Run({"catalogue", "--language", "en"}).out;
   EXPECT_NE(german, english);
   EXPECT_EQ(Lines(german).size(), Lines(english).size());
-  EXPECT_EQ(cli.Run({"catalogue", "--language", "de"}).out, german);
+  EXPECT_EQ(WithoutClockRows(cli.Run({"catalogue", "--language", "de"}).out),
+            WithoutClockRows(german));
 }
 
 TEST(CliCatalogueTest, WrongCallsAreUsageErrors) {

@@ -71,6 +71,12 @@ TEST_F(CliSettingsTest, BadArgumentsAndUnreadableFiles) {
   EXPECT_EQ(plain.exit_code, 1);
   EXPECT_THAT(plain.err, HasSubstr("Error occurred while opening configuration file."));
   EXPECT_EQ(cli_.Run({"run", "plain.twr", "--folder", "."}).exit_code, 2);
+  std::filesystem::create_directories(work() / "soon_gone");
+  ASSERT_EQ(cli_.Run({"settings", "write", "gone.twr", "--save-path", "soon_gone"}).exit_code, 0);
+  std::filesystem::remove(work() / "soon_gone");
+  const CliResult gone = cli_.Run({"run", "gone.twr"});
+  EXPECT_EQ(gone.exit_code, 2);
+  EXPECT_THAT(gone.err, HasSubstr("no longer exists"));
 }
 
 TEST_F(CliSettingsTest, RunAppliesTheFileThenTheOverrides) {
@@ -92,15 +98,15 @@ TEST_F(CliSettingsTest, UnattendedStartRenamesWithoutADisplay) {
                       "txtPrefix=n_", "--save-path", (work() / "files").string()})
                 .exit_code,
             0);
-  testing::ProcessSpec spec;
-  spec.program = TW_GUI_PATH;
-  spec.args = {"job.twr", "-d"};
-  spec.working_directory = work();
-  spec.environment = {{"XDG_CONFIG_HOME", cli_.config_home().string()},
-                      {"XDG_DATA_HOME", cli_.data_home().string()},
-                      {"DISPLAY", std::nullopt},
-                      {"WAYLAND_DISPLAY", std::nullopt}};
-  const CliResult run = testing::RunProcess(spec);
+  testing::ProcessSpec process;
+  process.program = TW_GUI_PATH;
+  process.args = {"job.twr", "-d"};
+  process.working_directory = work();
+  process.environment = {{"XDG_CONFIG_HOME", cli_.config_home().string()},
+                         {"XDG_DATA_HOME", cli_.data_home().string()},
+                         {"DISPLAY", std::nullopt},
+                         {"WAYLAND_DISPLAY", std::nullopt}};
+  const CliResult run = testing::RunProcess(process);
   ASSERT_EQ(run.exit_code, 0) << run.err;
   EXPECT_TRUE(std::filesystem::exists(work() / "files" / "n_one.txt"));
   EXPECT_TRUE(std::filesystem::exists(work() / "files" / "n_two.txt"));
@@ -110,10 +116,10 @@ TEST_F(CliSettingsTest, UnattendedStartRenamesWithoutADisplay) {
   EXPECT_TRUE(std::filesystem::exists(program / "Undo Files" / "UndoBatch.bat"));
   EXPECT_TRUE(std::filesystem::exists(program / "Log Files" / "Tarnwick.log"));
 
-  spec.args = {"missing.twr", "-d"};
-  EXPECT_EQ(testing::RunProcess(spec).exit_code, 2);
-  spec.args = {};
-  EXPECT_EQ(testing::RunProcess(spec).exit_code, 2);
+  process.args = {"missing.twr", "-d"};
+  EXPECT_EQ(testing::RunProcess(process).exit_code, 2);
+  process.args = {};
+  EXPECT_EQ(testing::RunProcess(process).exit_code, 2);
 }
 
 }  // namespace

@@ -8,7 +8,7 @@
 #include <string>
 
 #include "core/file_date_time.h"
-#include "media/exif_provider.h"
+#include "media/media_readers.h"
 #include "persist/option_store.h"
 #include "platform/file_times.h"
 #include "shell/message_table.h"
@@ -31,7 +31,7 @@ TEST(ExifFileDateTest, PicturesTakeTheirDateOfOriginAndOthersStayAsTheyAre) {
   testing::TempDir dir;
   OptionStore options(dir.path() / "options.ini");
   ScriptedInteraction interaction;
-  const ExifInfoProvider media;
+  const MediaReaders media;
   const FileDateEnv env{options, interaction, MessageTable::Get(Language::kEnglish), media};
   const auto copy = [&](const std::string& from, const std::string& to) {
     std::filesystem::copy_file(Fixture(from), dir.path() / to);

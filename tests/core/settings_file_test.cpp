@@ -192,5 +192,38 @@ TEST_F(SettingsFileTest, DefaultSettingsFileMissingSwitchesItselfOff) {
             "Current loaded default settings file: a-very-long-settings-file-name-indeed.twr");
 }
 
+TEST_F(SettingsFileTest, TheDialoguesOfSavingAndLoading) {
+  RenameSettings settings;
+  settings.txtPostfix = "end ";
+  std::filesystem::create_directories(dir_.path() / "Rename Settings");
+  const std::string target = PathOf("dialog.twr");
+  SaveSettingsAnswer save;
+  save.path = target;
+  ask_.Then(Answer::kOk).Then(save);
+  const SaveSettingsResult saved = SaveSettings(env_, settings, PathOf("Rename Settings"));
+  ASSERT_EQ(saved.outcome, SaveSettingsResult::Outcome::kSaved);
+  ASSERT_EQ(ask_.asked().size(), 2u);
+  EXPECT_EQ(ask_.asked()[0].title, "Replace blanks");
+  EXPECT_EQ(settings.txtPostfix, "end{{space}}");
+
+  // Changed controls with SaveChanges "0": No keeps them, Yes asks for a file.
+  options_.SaveOption("SaveChanges", "Options", "0");
+  app_.SettingsDirty = true;
+  ask_.Then(Answer::kNo);
+  EXPECT_EQ(LoadIniSettings(env_, settings).outcome, LoadSettingsResult::Outcome::kCancelled);
+  ask_.Then(Answer::kYes).Then(Cancelled{});
+  EXPECT_EQ(LoadIniSettings(env_, settings).outcome, LoadSettingsResult::Outcome::kCancelled);
+  settings.txtPostfix = "changed";
+  ask_.Then(Answer::kYes).Then(TextAnswer{target});
+  const LoadSettingsResult loaded = LoadIniSettings(env_, settings);
+  EXPECT_EQ(loaded.outcome, LoadSettingsResult::Outcome::kLoaded);
+  EXPECT_EQ(loaded.frame_caption, "Settings   [dialog.twr]");
+  EXPECT_EQ(settings.txtPostfix, "end{{space}}");
+  EXPECT_FALSE(app_.SettingsDirty);
+  EXPECT_EQ(app_.loaded_settings_name, "dialog.twr");
+  EXPECT_TRUE(ask_.failures().empty());
+  EXPECT_EQ(ask_.pending(), 0u);
+}
+
 }  // namespace
 }  // namespace tarnwick

@@ -22,7 +22,7 @@ class ExifReportTest : public ::testing::Test {
  protected:
   ExifReportTest() : reader_(messages_, {}) {}
 
-  std::vector<std::string> Lines(const std::vector<ExifReportRow>& rows,
+  std::vector<std::string> Lines(const std::vector<ReportRow>& rows,
                                  const ReportProgress& progress = {}) {
     const auto out = dir_.path() / "report.txt";
     EXPECT_TRUE(WriteExifReport(out, rows, reader_, messages_, progress));

@@ -8,6 +8,7 @@
 
 #include "base/clock.h"
 #include "base/vb_error.h"
+#include "core/journal.h"
 #include "core/rename_settings.h"
 #include "core/settings_file.h"
 #include "persist/log_undo_env.h"
@@ -156,6 +157,13 @@ TEST_F(StartupTest, SettingsFileWithSwitchRunsTheBatchAndSkipsTheRest) {
   EXPECT_EQ(Option("ResetPath"), "0");
   EXPECT_EQ(Option("SetFileAssoc"), "") << "the rest of start-up is skipped";
 
+  // Nor does a file whose folder has gone: the list would show the root.
+  std::filesystem::remove_all(files);
+  const StartupResult gone = Start("job.twr -d");
+  EXPECT_TRUE(gone.settings_load.folder_gone);
+  EXPECT_FALSE(gone.batch.ran);
+  EXPECT_EQ(app_.CurrentPath, "/");
+
   // A file that cannot be applied starts no run.
   const StartupResult missing = Start("missing.twr -d");
   EXPECT_TRUE(missing.settings_failed);
@@ -169,6 +177,19 @@ TEST_F(StartupTest, AFolderThatIsGoneFallsBackToTheRootAndGoesOn) {
   EXPECT_EQ(app_.CurrentPath, input_.default_root);
   EXPECT_EQ(result.error_number, 76);
   EXPECT_EQ(Option("ResetPath"), "0");
+}
+
+TEST_F(StartupTest, AJournalLeftByAKilledRunIsCompletedAtStart) {
+  const auto undo = dir_.path() / "data/Oakhollow/Tarnwick/Undo Files";
+  std::filesystem::create_directories(undo);
+  dir_.WriteFile("data/Oakhollow/Tarnwick/Undo Files/UndoBatch.bat", "@echo off\r\n");
+  // A journal that is closed without being removed: its run was killed.
+  ASSERT_NE(RunJournal::Begin(undo / "UndoBatch.bat", "", nullptr), nullptr);
+  ASSERT_EQ(JournalsInFolder(undo).size(), 1u);
+  const StartupResult result = Start();
+  ASSERT_EQ(result.journals.size(), 1u);
+  EXPECT_EQ(result.journals[0].outcome, JournalRecovery::Outcome::kCompleted);
+  EXPECT_TRUE(JournalsInFolder(undo).empty());
 }
 
 TEST(CommandLine, TheTableOfTests) {
