@@ -271,11 +271,8 @@ QWidget* MainWindow::BuildLowerPane() {
 }
 
 PipelineEnv MainWindow::SampleEnv() {
-  return PipelineEnv{app_,          settings_,
-                     list_,         options_,
-                     *interaction_, messages_,
-                     clock_,        MediaInfoProvider::None(),
-                     nullptr,       list_.SelectedCount()};
+  return PipelineEnv{app_,      settings_, list_,          options_, *interaction_,
+                     messages_, clock_,    media_readers_, nullptr,  list_.SelectedCount()};
 }
 
 // --- Controls. -------------------------------------------------------------
@@ -556,7 +553,7 @@ void MainWindow::StartRenaming() {
   ViewSelectionToList();
   const RenameRunResult result =
       StartRename({app_, settings_, list_, options_, *interaction_, messages_, clock_, log_state_,
-                   MediaInfoProvider::None(), &loader_});
+                   media_readers_, &loader_});
   model_->Refresh();
   UpdateFilterItems();
   ListSelectionToView();

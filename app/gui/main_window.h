@@ -12,7 +12,8 @@
 #include "core/sample.h"
 #include "filelist/file_list.h"
 #include "filelist/list_loader.h"
-#include "filelist/media_source.h"
+#include "filelist/media_column_source.h"
+#include "media/media_readers.h"
 #include "persist/log_file.h"
 #include "persist/log_undo_env.h"
 #include "persist/log_undo_state.h"
@@ -158,7 +159,8 @@ class MainWindow : public QMainWindow, public ProgressView {
   Interaction* interaction_ = nullptr;
   LogUndoEnv env_;
   FillLog fill_log_;
-  FileRowMediaSource media_;
+  MediaColumnSource media_;     // the media and EXIF-date columns
+  MediaReaders media_readers_;  // tags, lengths and EXIF for names
   FileList list_;
   FileListLoader loader_;
   NewNamePreview preview_;

@@ -52,10 +52,10 @@ constexpr MessageEntry kEntries[] = {
      "Frage in unbeaufsichtigtem Lauf beantwortet"},
     // The program without a window.
     {0, "startup.no_desktop_window",
-     "The desktop window of Tarnwick is not built yet. Start an unattended run with: tarnwick "
+     "There is no display for the window of Tarnwick. Start an unattended run with: tarnwick "
      "SETTINGS.twr -d",
-     "Das Fenster von Tarnwick ist noch nicht gebaut. Eine unbeaufsichtigte Umbenennung startet "
-     "mit: tarnwick EINSTELLUNGEN.twr -d"},
+     "Für das Fenster von Tarnwick ist keine Anzeige vorhanden. Eine unbeaufsichtigte "
+     "Umbenennung startet mit: tarnwick EINSTELLUNGEN.twr -d"},
 
     // Errors of start-up and closing.
     {189, "startup.log.error_subject", "Start Tarnwick (ERROR)", "Tarnwick starten (FEHLER)"},

@@ -26,8 +26,9 @@ using gui::MainWindow;
 class MainWindowTest : public GuiTest {
  protected:
   MainWindowTest() : options(config.path() / "Tarnwick.ini") {
-    options.SaveOption("WriteUndoFile", "Options", "0");
-    options.SaveOption("WriteLogFile", "Options", "0");
+    // The log and the undo batch go to the test's own folder.
+    options.SaveOption("LogFilePath", "Options", (config.path() / "Tarnwick.log").string());
+    options.SaveOption("UndoFilePath", "Options", config.str());
     for (const char* name : {"a.txt", "b.txt", "c.txt"}) dir.WriteFile(name, name);
     window =
         std::make_unique<MainWindow>(options, MessageTable::Get(Language::kEnglish), &interaction);
@@ -113,6 +114,14 @@ TEST_F(MainWindowTest, PrefixAndNumberingShowInTheSampleAndTheRunRenames) {
   ASSERT_EQ(window->file_view()->model()->rowCount(), 3);
   EXPECT_EQ(CellText(0, 0), "07-IMG_a.txt");
   EXPECT_TRUE(window->start_button()->isEnabled());
+  // The run wrote its undo batch where the options say, naming the old name.
+  bool batch_found = false;
+  for (const auto& entry : std::filesystem::directory_iterator(config.path())) {
+    if (entry.path().extension() != ".bat") continue;
+    batch_found =
+        config.ReadFile(entry.path().filename().string()).find("a.txt") != std::string::npos;
+  }
+  EXPECT_TRUE(batch_found);
 }
 
 TEST_F(MainWindowTest, NewNamesThatCollideAreCountedAndTheTestModeTouchesNothing) {
