@@ -223,7 +223,9 @@ QWidget* MainWindow::BuildLowerPane() {
   scroll->setWidget(controls_);
   scroll->setWidgetResizable(true);
   scroll->setFrameShape(QFrame::NoFrame);
-  scroll->setMinimumHeight(controls_->sizeHint().height());
+  scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  scroll->viewport()->installEventFilter(this);
+  settings_scroll_ = scroll;
   frame_layout->addWidget(scroll);
   layout->addWidget(settings_frame, 1);
   for (QLineEdit* field : controls_->text_fields()) field->installEventFilter(this);
@@ -660,6 +662,10 @@ void MainWindow::StopFolderWatch() {
 // --- Events. -------------------------------------------------------------------------
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (settings_scroll_ != nullptr && watched == settings_scroll_->viewport() &&
+      event->type() == QEvent::Resize) {
+    controls_->FitWidth(settings_scroll_->viewport()->width());
+  }
   if (event->type() == QEvent::FocusIn && qobject_cast<QLineEdit*>(watched) != nullptr &&
       watched != sample_) {
     app_.FieldHasFocus = true;

@@ -31,6 +31,7 @@ class QGroupBox;
 class QLabel;
 class QLineEdit;
 class QProgressBar;
+class QScrollArea;
 class QPushButton;
 class QTableView;
 class QTreeView;
@@ -174,6 +175,7 @@ class MainWindow : public QMainWindow, public ProgressView {
   QComboBox* extension_ = nullptr;
   QCheckBox* subfolders_ = nullptr;
   RenameControls* controls_ = nullptr;
+  QScrollArea* settings_scroll_ = nullptr;
   QGroupBox* sample_frame_ = nullptr;
   QLineEdit* sample_ = nullptr;
   QPushButton* start_ = nullptr;

@@ -35,7 +35,8 @@ QString StepNumberField(const QString& text, int delta) {
 
 RenameControls::RenameControls(const MessageTable& messages, QWidget* parent)
     : QWidget(parent), messages_(messages) {
-  auto* layout = new QHBoxLayout(this);
+  auto* layout = new QBoxLayout(QBoxLayout::LeftToRight, this);
+  layout_ = layout;
   layout->setContentsMargins(0, 0, 0, 0);
   auto* actions = new QGridLayout;
   actions->setHorizontalSpacing(4);
@@ -89,6 +90,13 @@ RenameControls::RenameControls(const MessageTable& messages, QWidget* parent)
   side->addWidget(action_order_);
   side->addStretch();
   layout->addLayout(side, 2);
+  wide_width_ = minimumSizeHint().width();
+}
+
+void RenameControls::FitWidth(int available) {
+  const auto direction =
+      available < wide_width_ ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight;
+  if (layout_->direction() != direction) layout_->setDirection(direction);
 }
 
 QWidget* RenameControls::Tick(const char* name, const QString& caption) {

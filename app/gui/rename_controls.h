@@ -8,6 +8,7 @@
 #include "core/rename_settings.h"
 #include "shell/message_table.h"
 
+class QBoxLayout;
 class QButtonGroup;
 class QGroupBox;
 class QLabel;
@@ -33,6 +34,9 @@ class RenameControls : public QWidget {
   // The text fields that set `FieldHasFocus`.
   const std::vector<QLineEdit*>& text_fields() const { return text_fields_; }
   QLabel* action_order_label() const { return action_order_; }
+  // Puts the numbering group beside the actions when `available` pixels
+  // give room for both, below them otherwise.
+  void FitWidth(int available);
 
  signals:
   // A placeholder button was pressed for `field`.
@@ -57,6 +61,8 @@ class RenameControls : public QWidget {
   std::vector<QLineEdit*> text_fields_;
   std::vector<std::pair<std::string, std::vector<QWidget*>>> tick_targets_;
   QLabel* action_order_ = nullptr;
+  QBoxLayout* layout_ = nullptr;
+  int wide_width_ = 0;
 };
 
 // The text of a number field one step up or down, keeping its zero padding
