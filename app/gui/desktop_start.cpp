@@ -30,6 +30,7 @@ bool StartWindow(MainWindow& window, const std::string& line, std::ostream& err)
   const StartupResult result =
       RunStartup(window.env(), window.settings(), window.host(), MachineStartupInput(line));
   window.app().LoadingFlag = false;
+  window.ShowSettings();
   if (result.outcome == StartupResult::Outcome::kReady) return true;
   if (!result.error.empty()) err << "tarnwick: start-up failed: " << result.error << '\n';
   return false;

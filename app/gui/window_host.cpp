@@ -32,7 +32,12 @@ void WindowHost::UnloadSplash() { window_.CloseSplash(); }
 
 void WindowHost::RefreshControlStates() { window_.ShowSettings(); }
 
-void WindowHost::FillListFiles() { window_.ShowFolder(Q(window_.app().CurrentPath)); }
+// Start-up applies a settings file after the controls were first shown, and
+// fills the list after it: the controls show the settings before each fill.
+void WindowHost::FillListFiles() {
+  window_.ShowSettings();
+  window_.ShowFolder(Q(window_.app().CurrentPath));
+}
 
 std::int64_t WindowHost::RowCount() const {
   return static_cast<std::int64_t>(window_.list().size());

@@ -10,11 +10,13 @@
 #include <QTest>
 #include <filesystem>
 
+#include "core/settings_file.h"
 #include "file_list_model.h"
 #include "gui/gui_test_support.h"
 #include "persist/option_store.h"
 #include "rename_controls.h"
 #include "shell/scripted_interaction.h"
+#include "startup/startup.h"
 #include "support/temp_dir.h"
 
 namespace tarnwick::testing {
@@ -170,6 +172,27 @@ TEST_F(MainWindowTest, SelectionSortingAndRemovalWorkOnTheCoreList) {
   EXPECT_EQ(window->file_view()->model()->rowCount(), 1);
   EXPECT_EQ(CellText(0, 0), "c.txt");
   EXPECT_TRUE(Exists("a.txt"));  // removed from the list only
+}
+
+TEST_F(MainWindowTest, AStartWithASettingsFileShowsItsControls) {
+  window->settings().chkPrefix = 1;
+  window->settings().txtPrefix = "Trip_";
+  window->settings().chkIncludeSubfolders = 1;
+  const std::string file = (config.path() / "trip.twr").string();
+  ASSERT_EQ(SaveSettingsTo(window->env(), window->settings(), file, true).outcome,
+            SaveSettingsResult::Outcome::kSaved);
+
+  MainWindow started(options, MessageTable::Get(Language::kEnglish), &interaction);
+  interaction.SetDefault(QuestionKind::kMessageBox, Answer::kOk);
+  const StartupResult result =
+      RunStartup(started.env(), started.settings(), started.host(), MachineStartupInput(file));
+  ASSERT_EQ(result.outcome, StartupResult::Outcome::kReady) << result.error;
+  EXPECT_TRUE(started.findChild<QCheckBox*>("chkPrefix")->isChecked());
+  EXPECT_EQ(started.findChild<QLineEdit*>("txtPrefix")->text(), "Trip_");
+  EXPECT_TRUE(started.findChild<QLineEdit*>("txtPrefix")->isEnabled());
+  EXPECT_TRUE(started.findChild<QCheckBox*>("chkIncludeSubfolders")->isChecked());
+  EXPECT_EQ(started.app().CurrentPath, dir.str());
+  EXPECT_EQ(started.list().size(), 3u);
 }
 
 }  // namespace
