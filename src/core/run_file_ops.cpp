@@ -8,7 +8,7 @@
 namespace tarnwick {
 namespace {
 
-void Raise(const FileStatus& status) { throw status.ToVbError(); }
+[[noreturn]] void Raise(const FileStatus& status) { throw status.ToVbError(); }
 
 // The record before a step; without it the step is not done.
 void Announce(RunContext& run, JournalStepKind kind, const std::string& from,
@@ -26,14 +26,12 @@ void Announce(RunContext& run, JournalStepKind kind, const std::string& from,
   Raise(status);
 }
 
-// A name no entry of `folder` has now. The empty file made to reserve it is
-// removed at once: the move to it will not replace anything that takes the
-// name in between.
+// A free name in the file's folder for the first step of a change of case.
+// Nothing is created for it, so a run killed here leaves no stray file.
 std::string FreeTemporaryName(const std::string& folder) {
-  const FileResult<std::filesystem::path> made = CreateUniqueTempFile(folder, "~VB");
-  if (!made.ok()) Raise(made.status());
-  DeleteFile(made.value());
-  return made.value().string();
+  const FileResult<std::filesystem::path> name = FreeTempName(folder, "~VB");
+  if (!name.ok()) Raise(name.status());
+  return name.value().string();
 }
 
 }  // namespace

@@ -15,4 +15,12 @@ std::filesystem::path TempFolder();
 FileResult<std::filesystem::path> CreateUniqueTempFile(const std::filesystem::path& folder,
                                                        const std::string& prefix);
 
+// A name in `folder` that no entry has at the moment of the call: `prefix`
+// followed by random letters and digits. Nothing is created, so a process
+// that dies leaves nothing behind; the caller claims the name with an
+// operation that never replaces (MoveFileNoReplace), which fails should
+// another file take the name first.
+FileResult<std::filesystem::path> FreeTempName(const std::filesystem::path& folder,
+                                               const std::string& prefix);
+
 }  // namespace tarnwick

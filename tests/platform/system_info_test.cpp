@@ -96,5 +96,16 @@ TEST(TempFilesTest, UniqueTempFilesAreCreatedAndDistinct) {
   EXPECT_EQ(CreateUniqueTempFile(dir.path(), "a/b").status().number, 52);
 }
 
+TEST(TempFilesTest, FreeTempNameCreatesNothing) {
+  TempDir dir;
+  const FileResult<std::filesystem::path> name = FreeTempName(dir.path(), "~VB");
+  ASSERT_TRUE(name.ok());
+  EXPECT_EQ(name.value().parent_path(), dir.path());
+  EXPECT_EQ(name.value().filename().string().rfind("~VB", 0), 0u);
+  EXPECT_FALSE(std::filesystem::exists(name.value()));
+  EXPECT_TRUE(std::filesystem::is_empty(dir.path()));
+  EXPECT_EQ(FreeTempName(dir.path(), "a/b").status().number, 52);
+}
+
 }  // namespace
 }  // namespace tarnwick

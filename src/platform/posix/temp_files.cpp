@@ -7,6 +7,7 @@
 
 #include "platform/files.h"
 #include "platform/posix/errno_status.h"
+#include "platform/posix/temp_name.h"
 
 namespace tarnwick {
 
@@ -24,6 +25,14 @@ FileResult<std::filesystem::path> CreateUniqueTempFile(const std::filesystem::pa
   if (fd < 0) return posix::StatusFromErrno(errno, pattern);
   ::close(fd);
   return std::filesystem::path(pattern);
+}
+
+FileResult<std::filesystem::path> FreeTempName(const std::filesystem::path& folder,
+                                               const std::string& prefix) {
+  if (prefix.find('/') != std::string::npos) return FileStatus::Error(vb_error::kBadFileName);
+  std::filesystem::path name = posix::FreeTemporaryName(folder, prefix);
+  if (name.empty()) return FileStatus::Error(vb_error::kPathFileAccessError);
+  return name;
 }
 
 }  // namespace tarnwick
