@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that Tarnwick's build, tests and benchmarks need.
 # rename: the Perl rename tool, a peer of the rename run's benchmark.
+# fonts-dejavu-core: a font for the window's screenshots on machines without one.
 # Idempotent: when everything is present it only checks and returns.
 set -euo pipefail
 
@@ -11,7 +12,7 @@ packages=(
   libjpeg62-turbo-dev libpng-dev libtiff-dev libgif-dev
   python3
   rename
-  qt6-base-dev
+  qt6-base-dev fonts-dejavu-core
 )
 
 missing=()
