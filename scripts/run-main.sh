@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# `make run`: Tarnwick's main job. Without a display this is the unattended
+# `make run`: Tarnwick's main job. With a display, the desktop window on the
+# home folder. Without one, the unattended
 # run "tarnwick SETTINGS.twr -d" on a generated sample folder, showing the
 # folder before and after, the undo batch, and the undo itself. The demo
 # folder's name holds no "-d": the command line drops every "-d" it holds.
