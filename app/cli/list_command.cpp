@@ -16,6 +16,7 @@
 #include "shell/cancel.h"
 #include "shell/cli_interaction.h"
 #include "shell/message_table.h"
+#include "tsv_text.h"
 
 namespace tarnwick::cli {
 namespace {
@@ -75,24 +76,6 @@ class StderrLog : public FileListLog {
  private:
   std::ostream& err_;
 };
-
-// Tabs, line ends and backslashes escaped, so a row stays one line.
-std::string TsvField(std::string_view text) {
-  std::string out;
-  for (char c : text) {
-    if (c == '\t')
-      out += "\\t";
-    else if (c == '\n')
-      out += "\\n";
-    else if (c == '\r')
-      out += "\\r";
-    else if (c == '\\')
-      out += "\\\\";
-    else
-      out += c;
-  }
-  return out;
-}
 
 void PrintTsv(const FileList& list, const std::array<std::string, file_column::kCount>& headings,
               std::ostream& out) {

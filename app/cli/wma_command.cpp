@@ -5,6 +5,7 @@
 #include "cli_command.h"
 #include "media/asf_tags.h"
 #include "platform/files.h"
+#include "tsv_text.h"
 
 namespace tarnwick::cli {
 namespace {
@@ -18,24 +19,6 @@ std::string TypeName(std::uint16_t type) {
   return type < kTypeNames.size() ? std::string(kTypeNames[type]) : std::to_string(type);
 }
 
-// Tabs and line ends in texts escaped, so an attribute stays one line.
-std::string OneLine(std::string_view text) {
-  std::string out;
-  for (const char c : text) {
-    if (c == '\t')
-      out += "\\t";
-    else if (c == '\n')
-      out += "\\n";
-    else if (c == '\r')
-      out += "\\r";
-    else if (c == '\\')
-      out += "\\\\";
-    else
-      out += c;
-  }
-  return out;
-}
-
 int RunWma(std::span<const std::string> args, CliIo& io) {
   if (args.empty()) return UsageError(io, kCommand, "FILE is missing");
   if (args.size() > 1) return UsageError(io, kCommand, "only one FILE is expected");
@@ -45,8 +28,8 @@ int RunWma(std::span<const std::string> args, CliIo& io) {
   WmTags tags;
   if (!tags.ReadTags(args[0])) return Failure(io, "not a Windows Media file: " + args[0]);
   for (int i = 0; i < tags.TagCount(); ++i) {
-    io.out << OneLine(tags.TagName(i)) << '\t' << TypeName(tags.TagType(i)) << '\t'
-           << OneLine(tags.TagValue(i)) << '\n';
+    io.out << TsvField(tags.TagName(i)) << '\t' << TypeName(tags.TagType(i)) << '\t'
+           << TsvField(tags.TagValue(i)) << '\n';
   }
   return kExitOk;
 }

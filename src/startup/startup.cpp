@@ -8,6 +8,7 @@
 #include "base/vb_date_text.h"
 #include "base/vb_error.h"
 #include "base/vb_number.h"
+#include "core/settings_snapshot.h"
 #include "persist/crash_recovery.h"
 #include "persist/default_paths.h"
 #include "persist/log_date_text.h"
@@ -22,7 +23,6 @@
 #include "shell/app_state.h"
 #include "shell/interaction.h"
 #include "shell/message_table.h"
-#include "startup/rename_snapshot.h"
 
 namespace tarnwick {
 namespace {
