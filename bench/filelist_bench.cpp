@@ -18,6 +18,7 @@
 #include "filelist/media_source.h"
 #include "persist/option_store.h"
 #include "platform/temp_files.h"
+#include "quiet_interaction.h"
 #include "shell/app_state.h"
 #include "shell/interaction.h"
 #include "shell/message_table.h"
@@ -25,40 +26,8 @@
 namespace {
 
 using namespace tarnwick;
-
-// Nobody watches: every question gets OK, nothing is shown.
-class QuietInteraction : public Interaction {
- public:
-  Answer ShowMessage(const MessageBoxRequest&) override { return Answer::kOk; }
-  StartRenamingChoice AskStartRenaming(const StartRenamingRequest&) override {
-    return StartRenamingChoice::kCancel;
-  }
-  FileExistsAnswer AskFileExists(const FileExistsRequest&) override { return {}; }
-  ManualRenameAnswer AskManualRename(const ManualRenameRequest&) override { return {}; }
-  void ShowTestResults(const std::vector<TestResultRow>&) override {}
-  std::optional<std::string> AskInput(const InputRequest&) override { return std::nullopt; }
-  std::optional<std::string> ChooseFile(const FileChooserRequest&) override { return std::nullopt; }
-  std::optional<std::string> ChooseFolder(const FolderChooserRequest&) override {
-    return std::nullopt;
-  }
-  std::optional<SaveSettingsAnswer> AskSaveSettings(const SaveSettingsRequest&) override {
-    return std::nullopt;
-  }
-  void ShowStatus(StatusArea, std::string_view) override {}
-  void SetCaption(std::string_view) override {}
-  void ShowProgress(std::int64_t, std::int64_t) override {}
-  void HideProgress() override {}
-  void SetControlsEnabled(bool, bool) override {}
-  void PlayWave(const std::string&) override {}
-  bool PollCancel() override { return false; }
-  void Yield() override {}
-};
-
-class NoLog : public FileListLog {
- public:
-  void WriteLogFileHeader() override {}
-  void WriteLogFileTool(std::string_view, std::string_view) override {}
-};
+using bench::NoLog;
+using bench::QuietInteraction;
 
 // A temporary folder with `count` empty files named like a camera's, kept for
 // the whole run.

@@ -28,6 +28,7 @@
 #include "persist/log_undo_state.h"
 #include "persist/option_store.h"
 #include "platform/temp_files.h"
+#include "quiet_interaction.h"
 #include "shell/app_state.h"
 #include "shell/interaction.h"
 #include "shell/message_table.h"
@@ -39,27 +40,8 @@ using Clock = std::chrono::steady_clock;
 
 // Nobody watches: questions get their quiet answers; the progress calls
 // keep the moments at which a tenth and nine tenths of the run were done.
-class TimingInteraction : public Interaction {
+class TimingInteraction : public bench::QuietInteraction {
  public:
-  Answer ShowMessage(const MessageBoxRequest& r) override {
-    return r.buttons == Buttons::kYesNo ? Answer::kNo : Answer::kOk;
-  }
-  StartRenamingChoice AskStartRenaming(const StartRenamingRequest&) override {
-    return StartRenamingChoice::kRename;
-  }
-  FileExistsAnswer AskFileExists(const FileExistsRequest&) override { return {}; }
-  ManualRenameAnswer AskManualRename(const ManualRenameRequest&) override { return {}; }
-  void ShowTestResults(const std::vector<TestResultRow>&) override {}
-  std::optional<std::string> AskInput(const InputRequest&) override { return std::nullopt; }
-  std::optional<std::string> ChooseFile(const FileChooserRequest&) override { return std::nullopt; }
-  std::optional<std::string> ChooseFolder(const FolderChooserRequest&) override {
-    return std::nullopt;
-  }
-  std::optional<SaveSettingsAnswer> AskSaveSettings(const SaveSettingsRequest&) override {
-    return std::nullopt;
-  }
-  void ShowStatus(StatusArea, std::string_view) override {}
-  void SetCaption(std::string_view) override {}
   void ShowProgress(std::int64_t value, std::int64_t max) override {
     if (max < 10 || value == 0) return;
     if (value == 1) start = Clock::now();
@@ -67,11 +49,6 @@ class TimingInteraction : public Interaction {
     if (value == max - max / 10) late_start = Clock::now();
     if (value == max) end = Clock::now();
   }
-  void HideProgress() override {}
-  void SetControlsEnabled(bool, bool) override {}
-  void PlayWave(const std::string&) override {}
-  bool PollCancel() override { return false; }
-  void Yield() override {}
 
   // Time per file of the last tenth over that of the first tenth.
   double LateOverEarly() const {
@@ -83,11 +60,7 @@ class TimingInteraction : public Interaction {
   Clock::time_point start, early_end, late_start, end;
 };
 
-class NoLog : public FileListLog {
- public:
-  void WriteLogFileHeader() override {}
-  void WriteLogFileTool(std::string_view, std::string_view) override {}
-};
+using bench::NoLog;
 
 // The width of "IMG_000001": the prefix and the number each file gets.
 constexpr std::size_t kPrefixWidth = 10;
