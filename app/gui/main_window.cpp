@@ -301,14 +301,11 @@ void MainWindow::ControlChanged(std::string_view name, const std::string& value)
 }
 
 void MainWindow::ShowActionOrder() {
-  QStringList names;
-  const ActionOrder order = ReadActionOrder(options_);
-  for (std::size_t i = 0; i < order.size(); ++i) {
-    if (order[i] == 0 || !ActionTicked(settings_, order[i])) continue;
-    names << Q(ActionDisplayName(order[i], messages_));
-  }
+  const std::string summary = ActionOrderSummary(
+      ReadActionOrder(options_), [this](int code) { return ActionTicked(settings_, code); },
+      messages_);
   controls_->action_order_label()->setText(Msg(messages_, "main.label.action_order") + " " +
-                                           (names.isEmpty() ? QString("-") : names.join(" > ")));
+                                           Q(summary));
 }
 
 void MainWindow::OpenPatternPicker(QLineEdit* field) {

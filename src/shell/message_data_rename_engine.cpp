@@ -193,6 +193,8 @@ constexpr MessageEntry kEntries[] = {
     {0, "order.really_set_default", "Do you really want to set all values to default?",
      "Möchten Sie wirklich alle Werte auf den Standard zurücksetzen?"},
     {0, "order.title_clear_settings", "Clear settings", "Einstellungen zurücksetzen"},
+    {0, "order.summary_default", "Default order", "Standardreihenfolge"},
+    {0, "order.summary_own", "Own order", "Eigene Reihenfolge"},
 
     // Manual rename dialogue.
     {0, "manual.title", "Manual renaming", "Manuelles Umbenennen"},

@@ -3,13 +3,17 @@
 #include "main_window.h"
 
 #include <QCheckBox>
+#include <QDialog>
 #include <QGroupBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTableView>
 #include <QTest>
+#include <QTimer>
 #include <filesystem>
 
+#include "core/action_order.h"
 #include "core/settings_file.h"
 #include "file_list_model.h"
 #include "gui/gui_test_support.h"
@@ -193,6 +197,33 @@ TEST_F(MainWindowTest, AStartWithASettingsFileShowsItsControls) {
   EXPECT_TRUE(started.findChild<QCheckBox*>("chkIncludeSubfolders")->isChecked());
   EXPECT_EQ(started.app().CurrentPath, dir.str());
   EXPECT_EQ(started.list().size(), 3u);
+}
+
+TEST_F(MainWindowTest, TheOrderLabelNamesTheTickedActionsInTheirOrder) {
+  QLabel* label = Control<QLabel>("lblActionOrder");
+  window->activateWindow();
+  ASSERT_TRUE(WaitFor([&] { return label->text() == "Order: Default order"; }))
+      << label->text().toStdString();
+  Tick("chkPrefix");
+  Tick("chkPostfix");
+  ASSERT_TRUE(WaitFor([&] { return label->text() == "Order: Default order: Prefix > Postfix"; }))
+      << label->text().toStdString();
+
+  // Postfix moved before Prefix: only the ticked ones are named, in run order.
+  StoreActionOrder(options, {1, 2, 3, 4, 7, 6, 5, 8, 9, 10});
+  ASSERT_TRUE(WaitFor([&] { return label->text() == "Order: Own order: Postfix > Prefix"; }))
+      << label->text().toStdString();
+
+  // A double click still opens the order dialogue.
+  QString opened;
+  QTimer::singleShot(50, [&] {
+    if (QWidget* dialog = QApplication::activeModalWidget()) {
+      opened = dialog->windowTitle();
+      static_cast<QDialog*>(dialog)->reject();
+    }
+  });
+  QTest::mouseDClick(label, Qt::LeftButton);
+  EXPECT_EQ(opened, "Edit sort order");
 }
 
 }  // namespace
