@@ -19,6 +19,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QShowEvent>
 #include <QSplashScreen>
 #include <QSplitter>
 #include <QStatusBar>
@@ -107,6 +108,10 @@ void MainWindow::BuildWidgets() {
   folders_->setHeaderHidden(true);
   connect(folders_->selectionModel(), &QItemSelectionModel::currentChanged, this,
           [this](const QModelIndex& index) { FolderChosen(index); });
+  connect(folder_model_, &QFileSystemModel::directoryLoaded, this, &MainWindow::FolderLoaded);
+  reveal_timeout_.setSingleShot(true);
+  reveal_timeout_.setInterval(5000);
+  connect(&reveal_timeout_, &QTimer::timeout, this, [this] { folder_to_reveal_.clear(); });
   split->addWidget(folders_);
 
   auto* right = new QSplitter(Qt::Vertical, split);
@@ -357,19 +362,44 @@ void MainWindow::UpdateFilterItems() {
 
 void MainWindow::ShowFolder(const QString& folder) {
   app_.CurrentPath = S(folder);
-  const QModelIndex index = folder_model_->index(folder);
+  folder_to_reveal_ = folder;
+  reveal_timeout_.start();
+  RevealCurrentFolder();
+  FillListFiles();
+}
+
+// The tree has its size only once the window is shown.
+void MainWindow::showEvent(QShowEvent* event) {
+  QMainWindow::showEvent(event);
+  QTimer::singleShot(0, this, &MainWindow::RevealCurrentFolder);
+}
+
+void MainWindow::RevealCurrentFolder() {
+  const QModelIndex index = folder_model_->index(Q(app_.CurrentPath));
+  if (!index.isValid()) return;
   {
     const QSignalBlocker block(folders_->selectionModel());
     folders_->setCurrentIndex(index);
   }
-  folders_->scrollTo(index);
-  FillListFiles();
+  folders_->scrollTo(index, QAbstractItemView::PositionAtCenter);
+}
+
+// Each folder read on the way down can move the rows above the current
+// folder; the folder is shown again until the reads reach it or time runs out.
+void MainWindow::FolderLoaded(const QString& path) {
+  if (folder_to_reveal_.isEmpty()) return;
+  const bool on_the_way =
+      folder_to_reveal_ == path || path == "/" || folder_to_reveal_.startsWith(path + "/");
+  if (!on_the_way) return;
+  RevealCurrentFolder();
+  if (path == folder_to_reveal_) folder_to_reveal_.clear();
 }
 
 void MainWindow::FolderChosen(const QModelIndex& index) {
   if (!index.isValid() || app_.run_active) return;
   const QString path = folder_model_->filePath(index);
   if (S(path) == app_.CurrentPath) return;
+  folder_to_reveal_.clear();  // the user chose: the tree stays where it is
   app_.CurrentPath = S(path);
   FillListFiles();
 }

@@ -116,6 +116,7 @@ class MainWindow : public QMainWindow, public ProgressView {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void showEvent(QShowEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -147,6 +148,10 @@ class MainWindow : public QMainWindow, public ProgressView {
   void OpenPatternPicker(QLineEdit* field);
   void OpenPath(const std::string& path);
   void FolderChosen(const QModelIndex& index);
+  // Selects the current folder in the tree and scrolls it into view; the
+  // tree reads folders in the background, so this runs again as they load.
+  void RevealCurrentFolder();
+  void FolderLoaded(const QString& path);
   void FlushStatus();
   void UpdateFilterItems();
 
@@ -188,6 +193,8 @@ class MainWindow : public QMainWindow, public ProgressView {
   QTimer status_flush_;
   QElapsedTimer status_clock_;
   QString pending_status_;
+  QString folder_to_reveal_;  // shown in the tree once its parents are read
+  QTimer reveal_timeout_;     // stops following the tree's loads
   QString pending_frame_;
   SampleRate rate_ = SampleRate::kNormal;
   int sample_length_ = 0;

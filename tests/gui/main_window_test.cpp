@@ -4,13 +4,17 @@
 
 #include <QCheckBox>
 #include <QDialog>
+#include <QFileSystemModel>
 #include <QGroupBox>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QTableView>
 #include <QTest>
 #include <QTimer>
+#include <QTreeView>
 #include <filesystem>
 
 #include "core/action_order.h"
@@ -22,6 +26,7 @@
 #include "shell/scripted_interaction.h"
 #include "startup/startup.h"
 #include "support/temp_dir.h"
+#include "window_host.h"
 
 namespace tarnwick::testing {
 namespace {
@@ -224,6 +229,36 @@ TEST_F(MainWindowTest, TheOrderLabelNamesTheTickedActionsInTheirOrder) {
   });
   QTest::mouseDClick(label, Qt::LeftButton);
   EXPECT_EQ(opened, "Edit sort order");
+}
+
+TEST_F(MainWindowTest, TheWindowStaysOnTheScreenAndTheTreeShowsTheCurrentFolder) {
+  const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
+  gui::WindowHost host(*window);
+  window->resize(area.width() / 2, area.height() / 2);
+  host.PlaceMainWindow(area.top() + 10, area.left() + 20);
+  EXPECT_EQ(window->frameGeometry().topLeft(), QPoint(area.left() + 20, area.top() + 10));
+  // A corner near the far edge moves back until the whole frame shows.
+  host.PlaceMainWindow(area.bottom() - 5, area.right() - 5);
+  EXPECT_TRUE(area.contains(window->frameGeometry())) << window->x() << "," << window->y();
+  EXPECT_EQ(window->frameGeometry().right(), area.right());
+  // A window larger than the screen keeps its top left corner visible.
+  window->resize(area.width() + 300, area.height() + 300);
+  host.PlaceMainWindow(area.top() + 40, area.left() + 40);
+  EXPECT_EQ(window->frameGeometry().topLeft(), area.topLeft());
+
+  // A folder deep below the test folder is current and visible in the tree.
+  window->resize(1100, 760);
+  std::filesystem::path deep = dir.path();
+  for (const char* part : {"one", "two", "three", "four"}) deep /= part;
+  std::filesystem::create_directories(deep);
+  window->ShowFolder(QString::fromStdString(deep.string()));
+  QTreeView* tree = window->folder_view();
+  const auto* model = static_cast<const QFileSystemModel*>(tree->model());
+  ASSERT_TRUE(WaitFor([&] {
+    const QModelIndex current = tree->currentIndex();
+    return model->filePath(current).toStdString() == deep.string() &&
+           tree->viewport()->rect().contains(tree->visualRect(current));
+  }));
 }
 
 }  // namespace
