@@ -126,7 +126,7 @@ ManualRenameAnswer QtInteraction::AskManualRename(const ManualRenameRequest& req
 }
 
 void QtInteraction::ShowTestResults(const std::vector<TestResultRow>& rows) {
-  TestResultsDialog dialog(rows, messages_, window_);
+  TestResultsDialog dialog(rows, messages_, *this, window_);
   dialog.exec();
 }
 
