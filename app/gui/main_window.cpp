@@ -15,6 +15,7 @@
 #include <QItemSelectionModel>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QMenuBar>
 #include <QProgressBar>
 #include <QPushButton>
@@ -197,7 +198,7 @@ QWidget* MainWindow::BuildListPane() {
           [this] { ViewSelectionToList(); });
   connect(files_, &QTableView::doubleClicked, this,
           [this](const QModelIndex& index) { OpenPath(list_.Path(index.row())); });
-  layout->addWidget(files_);
+  layout->addWidget(BuildListViews(pane));
 
   connect(extension_, &QComboBox::activated, this, [this] {
     ControlChanged("cboExtension", S(extension_->currentText()));
@@ -700,7 +701,7 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
     QTimer::singleShot(0, field, [field] { field->selectAll(); });
   } else if (event->type() == QEvent::FocusOut && qobject_cast<QLineEdit*>(watched) != nullptr) {
     app_.FieldHasFocus = false;
-  } else if (watched == files_ && event->type() == QEvent::KeyPress &&
+  } else if ((watched == files_ || watched == names_) && event->type() == QEvent::KeyPress &&
              static_cast<QKeyEvent*>(event)->key() == Qt::Key_Delete) {
     RemoveSelectedFromList();
     return true;

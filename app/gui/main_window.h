@@ -23,6 +23,8 @@
 #include "startup/startup_host.h"
 
 class QCheckBox;
+class QMenu;
+class QAction;
 class QSplashScreen;
 class QComboBox;
 class QFileSystemModel;
@@ -34,6 +36,8 @@ class QProgressBar;
 class QScrollArea;
 class QPushButton;
 class QTableView;
+class QListView;
+class QStackedWidget;
 class QTreeView;
 
 namespace tarnwick::gui {
@@ -108,6 +112,16 @@ class MainWindow : public QMainWindow, public ProgressView {
 
   // Widgets, for tests and screenshots.
   QTableView* file_view() const { return files_; }
+  // The list's views: `mnuLVList`, `mnuLVDetails` (the table) and
+  // `mnuLVSymbols`; the first and the last show the names in a QListView
+  // over the same rows and the same selection.
+  enum class ListViewMode { kList, kDetails, kSymbols };
+  void SetListViewMode(ListViewMode mode);
+  ListViewMode list_view_mode() const { return view_mode_; }
+  QListView* name_view() const { return names_; }
+  // Select all/none/invert, remove from the list and refresh: the menu of
+  // the list's right mouse button.
+  QList<QAction*> list_menu_actions() const;
   QLineEdit* sample_field() const { return sample_; }
   QGroupBox* sample_frame() const { return sample_frame_; }
   QLabel* status_label() const { return status_; }
@@ -137,6 +151,10 @@ class MainWindow : public QMainWindow, public ProgressView {
   void BuildWidgets();
   void BuildMenus();
   QWidget* BuildListPane();
+  // The names view of the list and symbols modes, beside the table.
+  QWidget* BuildListViews(QWidget* pane);
+  void BuildViewModeMenu(QMenu* view);
+  void BuildListMenu(QAction* refresh, QMenu* select);
   QWidget* BuildLowerPane();
   PipelineEnv SampleEnv();
   void ViewSelectionToList();
@@ -177,6 +195,11 @@ class MainWindow : public QMainWindow, public ProgressView {
   QFileSystemWatcher* watcher_ = nullptr;
   QTreeView* folders_ = nullptr;
   QTableView* files_ = nullptr;
+  QListView* names_ = nullptr;
+  QStackedWidget* list_views_ = nullptr;
+  ListViewMode view_mode_ = ListViewMode::kDetails;
+  QList<QAction*> view_mode_actions_;  // list, details, symbols
+  QList<QAction*> list_actions_;
   QComboBox* extension_ = nullptr;
   QCheckBox* subfolders_ = nullptr;
   RenameControls* controls_ = nullptr;

@@ -2,6 +2,7 @@
 // sample, the "New name" column, a run with scripted answers.
 #include "main_window.h"
 
+#include <QAction>
 #include <QCheckBox>
 #include <QDialog>
 #include <QFileSystemModel>
@@ -9,6 +10,7 @@
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QPushButton>
 #include <QScreen>
 #include <QTableView>
@@ -259,6 +261,51 @@ TEST_F(MainWindowTest, TheWindowStaysOnTheScreenAndTheTreeShowsTheCurrentFolder)
     return model->filePath(current).toStdString() == deep.string() &&
            tree->viewport()->rect().contains(tree->visualRect(current));
   }));
+}
+
+TEST_F(MainWindowTest, ViewModesShareTheSelectionAndTheListMenuActs) {
+  ASSERT_EQ(window->list().size(), 3u);
+  window->file_view()->selectRow(1);
+  window->SetListViewMode(MainWindow::ListViewMode::kSymbols);
+  QListView* names = window->name_view();
+  ASSERT_TRUE(names->isVisible());
+  EXPECT_FALSE(window->file_view()->isVisible());
+  EXPECT_EQ(names->viewMode(), QListView::IconMode);
+  const QModelIndex b = names->model()->index(1, 0);
+  EXPECT_TRUE(names->selectionModel()->isSelected(b));
+  EXPECT_FALSE(names->model()->data(b, Qt::DecorationRole).isNull());
+
+  // A selection made in the list mode is the core list's selection.
+  window->SetListViewMode(MainWindow::ListViewMode::kList);
+  EXPECT_EQ(names->viewMode(), QListView::ListMode);
+  EXPECT_TRUE(names->model()->data(b, Qt::DecorationRole).isNull());
+  names->selectionModel()->select(names->model()->index(2, 0), QItemSelectionModel::Select);
+  EXPECT_TRUE(window->list().IsSelected(1));
+  EXPECT_TRUE(window->list().IsSelected(2));
+  EXPECT_FALSE(window->list().IsSelected(0));
+
+  // The right mouse button's menu: invert, then remove from the list.
+  const auto action = [&](const char* text) -> QAction* {
+    for (QAction* a : names->actions()) {
+      if (a->text() == text) return a;
+    }
+    ADD_FAILURE() << text;
+    return nullptr;
+  };
+  EXPECT_EQ(names->contextMenuPolicy(), Qt::ActionsContextMenu);
+  EXPECT_EQ(window->file_view()->actions(), names->actions());
+  action("Invert selection")->trigger();
+  EXPECT_TRUE(window->list().IsSelected(0));
+  EXPECT_FALSE(window->list().IsSelected(1));
+  action("Remove from list")->trigger();
+  EXPECT_EQ(window->list().size(), 2u);
+  EXPECT_TRUE(Exists("a.txt"));
+  action("Refresh file list")->trigger();
+  EXPECT_EQ(window->list().size(), 3u);
+
+  window->SetListViewMode(MainWindow::ListViewMode::kDetails);
+  EXPECT_TRUE(window->file_view()->isVisible());
+  EXPECT_FALSE(names->isVisible());
 }
 
 }  // namespace
