@@ -62,6 +62,7 @@ class MainWindow : public QMainWindow, public ProgressView {
 
   const LogUndoEnv& env() const { return env_; }
   AppState& app() { return app_; }
+  const MessageTable& messages() const { return messages_; }
   RenameSettings& settings() { return settings_; }
   FileList& list() { return list_; }
   const NewNamePreview& new_names() const { return preview_; }

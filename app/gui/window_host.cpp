@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "core/start_rename.h"
+#include "desktop_integration.h"
 #include "main_window.h"
 #include "qt_text.h"
 #include "unattended_start.h"
@@ -66,6 +67,10 @@ BatchRunOutcome WindowHost::RunBatch() {
 }
 
 void WindowHost::ApplySampleRate() { window_.ApplySampleRate(); }
+
+void WindowHost::RegisterFileAssociation() {
+  RegisterSettingsFileType(std::string(window_.messages().Text("settings_file.filter")));
+}
 void WindowHost::ShowMainWindow() { window_.show(); }
 void WindowHost::StartFolderWatch() { window_.StartFolderWatch(); }
 void WindowHost::StopFolderWatch() { window_.StopFolderWatch(); }

@@ -21,6 +21,7 @@
 
 #include "core/action_order.h"
 #include "core/settings_file.h"
+#include "desktop_integration.h"
 #include "file_list_model.h"
 #include "gui/gui_test_support.h"
 #include "persist/option_store.h"
@@ -204,6 +205,10 @@ TEST_F(MainWindowTest, AStartWithASettingsFileShowsItsControls) {
   EXPECT_TRUE(started.findChild<QCheckBox*>("chkIncludeSubfolders")->isChecked());
   EXPECT_EQ(started.app().CurrentPath, dir.str());
   EXPECT_EQ(started.list().size(), 3u);
+  // The first start registered ".twr" for the user and remembers it.
+  EXPECT_TRUE(std::filesystem::exists(gui::ProgramDesktopFilePath()));
+  EXPECT_TRUE(std::filesystem::exists(gui::SettingsMimeTypePath()));
+  EXPECT_EQ(options.GetOption("SetFileAssoc", "Options", "0"), "1");
 }
 
 TEST_F(MainWindowTest, TheOrderLabelNamesTheTickedActionsInTheirOrder) {
