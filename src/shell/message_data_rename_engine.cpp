@@ -125,7 +125,6 @@ constexpr MessageEntry kEntries[] = {
     {0, "result_list.legend_renamed", "black = renamed", "schwarz = umbenannt"},
     {0, "result_list.title_save_batch", "Save batch file", "Batchdatei speichern"},
     {0, "result_list.filter_batch_file", "batch file", "Batchdatei"},
-    {0, "result_list.create_batch", "Create batch file", "Batchdatei erstellen"},
     {0, "result_list.batch_not_written", "The batch file could not be written:",
      "Die Batchdatei konnte nicht geschrieben werden:"},
 

@@ -102,7 +102,7 @@ TEST_F(ResultViewsTest, CreateBatchAsksForAFileAndWritesTheRenames) {
   gui::TestResultsDialog dialog(rows, messages, interaction);
   auto* button = dialog.findChild<QPushButton*>("cmdCreateBatch");
   ASSERT_NE(button, nullptr);
-  EXPECT_EQ(button->text(), "Create batch file");
+  EXPECT_EQ(button->text(), "Create batch ...");
 
   const std::string path = (dir.path() / "renames.bat").string();
   interaction.Then(TextAnswer{path});

@@ -60,6 +60,8 @@ TEST_F(OptionsDialogTest, OkStoresEveryValueAndDefaultRestoresThem) {
     if (std::string_view(row.key) == "DateFormat") expected = "x_dateformat";
     EXPECT_EQ(options.GetOption(row.key, "Options", "?"), expected) << row.key;
   }
+  // The next start reads the language switched to.
+  EXPECT_EQ(LanguageChoice(options.GetOption("Language", "Options", "")), Language::kGerman);
 
   OptionsDialog dialog(options, messages, questions, computed);
   EXPECT_EQ(dialog.Shown("SampleRefreshRate"), "Special");
@@ -72,6 +74,7 @@ TEST_F(OptionsDialogTest, OkStoresEveryValueAndDefaultRestoresThem) {
   EXPECT_EQ(dialog.Shown("BasisNameUndoBatch"), "UndoBatch");
   EXPECT_EQ(dialog.Shown("LogFilePath"), "/logs/Tarnwick.log");
   EXPECT_EQ(dialog.Shown("FileDateType"), "Created");
+  EXPECT_EQ(dialog.Shown("Language"), "System language");
   dialog.reject();  // Cancel: the stored values stay
   EXPECT_EQ(options.GetOption("WriteLogFile", "Options", "?"), "0");
 }
