@@ -9,4 +9,5 @@ pkg_check_modules(UUID REQUIRED IMPORTED_TARGET uuid)
 find_package(GTest)
 find_package(benchmark QUIET)
 # The desktop application and its tests.
-find_package(Qt6 REQUIRED COMPONENTS Widgets Test)
+# Multimedia plays the finish sound of a run.
+find_package(Qt6 REQUIRED COMPONENTS Widgets Multimedia Test)

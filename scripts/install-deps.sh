@@ -2,6 +2,7 @@
 # Installs the Debian packages that Tarnwick's build, tests and benchmarks need.
 # rename: the Perl rename tool, a peer of the rename run's benchmark.
 # fonts-dejavu-core: a font for the window's screenshots on machines without one.
+# qt6-multimedia-dev: the desktop window plays the finish sound through Qt Multimedia.
 # Idempotent: when everything is present it only checks and returns.
 set -euo pipefail
 
@@ -12,7 +13,7 @@ packages=(
   libjpeg62-turbo-dev libpng-dev libtiff-dev libgif-dev
   python3
   rename
-  qt6-base-dev fonts-dejavu-core
+  qt6-base-dev qt6-multimedia-dev fonts-dejavu-core
 )
 
 missing=()

@@ -13,4 +13,19 @@ bool SetFolderAction(bool installed, const std::string& caption);
 // The path of that desktop entry.
 std::string FolderActionPath();
 
+// The MIME type of settings files.
+inline constexpr char kSettingsMimeType[] = "application/x-tarnwick-settings";
+
+// Registers ".twr" for the user, without root: the MIME type
+// ($XDG_DATA_HOME/mime/packages/tarnwick-settings.xml, named `type_name`)
+// and the program's desktop file that opens it
+// ($XDG_DATA_HOME/applications/tarnwick.desktop). With `refresh_caches` the
+// system's MIME and desktop databases are updated in the background when
+// their tools are there. Returns false when a file cannot be written.
+bool RegisterSettingsFileType(const std::string& type_name, bool refresh_caches = true);
+
+// The paths of those two files.
+std::string SettingsMimeTypePath();
+std::string ProgramDesktopFilePath();
+
 }  // namespace tarnwick::gui

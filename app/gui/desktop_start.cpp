@@ -36,6 +36,12 @@ bool StartWindow(MainWindow& window, const std::string& line, std::ostream& err)
   return false;
 }
 
+// The language the options name, read once at start: a switch in the
+// options applies from the next start.
+Language ChosenLanguage(const OptionStore& options) {
+  return LanguageChoice(options.GetOption("Language", "Options", ""));
+}
+
 }  // namespace
 
 // Whether Qt can show a window: a display, or a platform chosen by hand.
@@ -55,7 +61,7 @@ int RunDesktop(int& argc, char** argv, std::span<const std::string> args, std::o
   QApplication::setApplicationName("Tarnwick");
   QApplication::setOrganizationName("Oakhollow");
   OptionStore options = OptionStore::ForCurrentUser();
-  MainWindow window(options, MessageTable::Get(SystemLanguage()));
+  MainWindow window(options, MessageTable::Get(ChosenLanguage(options)));
   if (!StartWindow(window, JoinArguments(args), err)) return 2;
   window.show();
   return QApplication::exec();
@@ -80,7 +86,7 @@ int RunScreenshot(int& argc, char** argv, std::span<const std::string> args, std
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
   OptionStore options = OptionStore::ForCurrentUser();
-  MainWindow window(options, MessageTable::Get(SystemLanguage()));
+  MainWindow window(options, MessageTable::Get(ChosenLanguage(options)));
   window.resize(size);
   QElapsedTimer timer;
   timer.start();

@@ -1,7 +1,9 @@
 #include "file_list_model.h"
 
+#include <QApplication>
 #include <QBrush>
 #include <QFont>
+#include <QStyle>
 
 #include "qt_text.h"
 
@@ -28,6 +30,12 @@ void FileListModel::NewNamesChanged(int first, int last) {
   emit dataChanged(index(first, kNewNameColumn), index(last, kNewNameColumn));
 }
 
+void FileListModel::SetDecorated(bool decorated) {
+  if (decorated_ == decorated) return;
+  decorated_ = decorated;
+  if (shown_rows_ > 0) emit dataChanged(index(0, 0), index(shown_rows_ - 1, 0));
+}
+
 int FileListModel::rowCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : shown_rows_;
 }
@@ -48,6 +56,9 @@ QVariant FileListModel::data(const QModelIndex& index, int role) const {
     return {};
   }
   if (role == Qt::DisplayRole) return Q(list_.Text(row, column));
+  if (role == Qt::DecorationRole && decorated_ && column == file_column::kName) {
+    return QApplication::style()->standardIcon(QStyle::SP_FileIcon);
+  }
   if (role == Qt::TextAlignmentRole && column == file_column::kSize) {
     return QVariant(Qt::AlignRight | Qt::AlignVCenter);
   }

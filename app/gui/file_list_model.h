@@ -28,6 +28,8 @@ class FileListModel : public QAbstractTableModel {
   void Refresh();
   // The "New name" column changed for the rows from `first` to `last`.
   void NewNamesChanged(int first, int last);
+  // Gives the names a file icon, for the symbols view.
+  void SetDecorated(bool decorated);
 
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& parent = {}) const override;
@@ -39,6 +41,7 @@ class FileListModel : public QAbstractTableModel {
   const NewNamePreview& preview_;
   int shown_rows_ = 0;
   std::array<QString, file_column::kCount + 1> headings_;
+  bool decorated_ = false;
 };
 
 }  // namespace tarnwick::gui

@@ -15,10 +15,12 @@
 #include <QItemSelectionModel>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QMenuBar>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QShowEvent>
 #include <QSplashScreen>
 #include <QSplitter>
 #include <QStatusBar>
@@ -107,6 +109,10 @@ void MainWindow::BuildWidgets() {
   folders_->setHeaderHidden(true);
   connect(folders_->selectionModel(), &QItemSelectionModel::currentChanged, this,
           [this](const QModelIndex& index) { FolderChosen(index); });
+  connect(folder_model_, &QFileSystemModel::directoryLoaded, this, &MainWindow::FolderLoaded);
+  reveal_timeout_.setSingleShot(true);
+  reveal_timeout_.setInterval(5000);
+  connect(&reveal_timeout_, &QTimer::timeout, this, [this] { folder_to_reveal_.clear(); });
   split->addWidget(folders_);
 
   auto* right = new QSplitter(Qt::Vertical, split);
@@ -192,7 +198,7 @@ QWidget* MainWindow::BuildListPane() {
           [this] { ViewSelectionToList(); });
   connect(files_, &QTableView::doubleClicked, this,
           [this](const QModelIndex& index) { OpenPath(list_.Path(index.row())); });
-  layout->addWidget(files_);
+  layout->addWidget(BuildListViews(pane));
 
   connect(extension_, &QComboBox::activated, this, [this] {
     ControlChanged("cboExtension", S(extension_->currentText()));
@@ -301,14 +307,11 @@ void MainWindow::ControlChanged(std::string_view name, const std::string& value)
 }
 
 void MainWindow::ShowActionOrder() {
-  QStringList names;
-  const ActionOrder order = ReadActionOrder(options_);
-  for (std::size_t i = 0; i < order.size(); ++i) {
-    if (order[i] == 0 || !ActionTicked(settings_, order[i])) continue;
-    names << Q(ActionDisplayName(order[i], messages_));
-  }
+  const std::string summary = ActionOrderSummary(
+      ReadActionOrder(options_), [this](int code) { return ActionTicked(settings_, code); },
+      messages_);
   controls_->action_order_label()->setText(Msg(messages_, "main.label.action_order") + " " +
-                                           (names.isEmpty() ? QString("-") : names.join(" > ")));
+                                           Q(summary));
 }
 
 void MainWindow::OpenPatternPicker(QLineEdit* field) {
@@ -360,19 +363,44 @@ void MainWindow::UpdateFilterItems() {
 
 void MainWindow::ShowFolder(const QString& folder) {
   app_.CurrentPath = S(folder);
-  const QModelIndex index = folder_model_->index(folder);
+  folder_to_reveal_ = folder;
+  reveal_timeout_.start();
+  RevealCurrentFolder();
+  FillListFiles();
+}
+
+// The tree has its size only once the window is shown.
+void MainWindow::showEvent(QShowEvent* event) {
+  QMainWindow::showEvent(event);
+  QTimer::singleShot(0, this, &MainWindow::RevealCurrentFolder);
+}
+
+void MainWindow::RevealCurrentFolder() {
+  const QModelIndex index = folder_model_->index(Q(app_.CurrentPath));
+  if (!index.isValid()) return;
   {
     const QSignalBlocker block(folders_->selectionModel());
     folders_->setCurrentIndex(index);
   }
-  folders_->scrollTo(index);
-  FillListFiles();
+  folders_->scrollTo(index, QAbstractItemView::PositionAtCenter);
+}
+
+// Each folder read on the way down can move the rows above the current
+// folder; the folder is shown again until the reads reach it or time runs out.
+void MainWindow::FolderLoaded(const QString& path) {
+  if (folder_to_reveal_.isEmpty()) return;
+  const bool on_the_way =
+      folder_to_reveal_ == path || path == "/" || folder_to_reveal_.startsWith(path + "/");
+  if (!on_the_way) return;
+  RevealCurrentFolder();
+  if (path == folder_to_reveal_) folder_to_reveal_.clear();
 }
 
 void MainWindow::FolderChosen(const QModelIndex& index) {
   if (!index.isValid() || app_.run_active) return;
   const QString path = folder_model_->filePath(index);
   if (S(path) == app_.CurrentPath) return;
+  folder_to_reveal_.clear();  // the user chose: the tree stays where it is
   app_.CurrentPath = S(path);
   FillListFiles();
 }
@@ -673,7 +701,7 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
     QTimer::singleShot(0, field, [field] { field->selectAll(); });
   } else if (event->type() == QEvent::FocusOut && qobject_cast<QLineEdit*>(watched) != nullptr) {
     app_.FieldHasFocus = false;
-  } else if (watched == files_ && event->type() == QEvent::KeyPress &&
+  } else if ((watched == files_ || watched == names_) && event->type() == QEvent::KeyPress &&
              static_cast<QKeyEvent*>(event)->key() == Qt::Key_Delete) {
     RemoveSelectedFromList();
     return true;

@@ -23,6 +23,8 @@
 #include "startup/startup_host.h"
 
 class QCheckBox;
+class QMenu;
+class QAction;
 class QSplashScreen;
 class QComboBox;
 class QFileSystemModel;
@@ -34,6 +36,8 @@ class QProgressBar;
 class QScrollArea;
 class QPushButton;
 class QTableView;
+class QListView;
+class QStackedWidget;
 class QTreeView;
 
 namespace tarnwick::gui {
@@ -58,6 +62,7 @@ class MainWindow : public QMainWindow, public ProgressView {
 
   const LogUndoEnv& env() const { return env_; }
   AppState& app() { return app_; }
+  const MessageTable& messages() const { return messages_; }
   RenameSettings& settings() { return settings_; }
   FileList& list() { return list_; }
   const NewNamePreview& new_names() const { return preview_; }
@@ -108,6 +113,16 @@ class MainWindow : public QMainWindow, public ProgressView {
 
   // Widgets, for tests and screenshots.
   QTableView* file_view() const { return files_; }
+  // The list's views: `mnuLVList`, `mnuLVDetails` (the table) and
+  // `mnuLVSymbols`; the first and the last show the names in a QListView
+  // over the same rows and the same selection.
+  enum class ListViewMode { kList, kDetails, kSymbols };
+  void SetListViewMode(ListViewMode mode);
+  ListViewMode list_view_mode() const { return view_mode_; }
+  QListView* name_view() const { return names_; }
+  // Select all/none/invert, remove from the list and refresh: the menu of
+  // the list's right mouse button.
+  QList<QAction*> list_menu_actions() const;
   QLineEdit* sample_field() const { return sample_; }
   QGroupBox* sample_frame() const { return sample_frame_; }
   QLabel* status_label() const { return status_; }
@@ -116,6 +131,7 @@ class MainWindow : public QMainWindow, public ProgressView {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void showEvent(QShowEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -136,6 +152,10 @@ class MainWindow : public QMainWindow, public ProgressView {
   void BuildWidgets();
   void BuildMenus();
   QWidget* BuildListPane();
+  // The names view of the list and symbols modes, beside the table.
+  QWidget* BuildListViews(QWidget* pane);
+  void BuildViewModeMenu(QMenu* view);
+  void BuildListMenu(QAction* refresh, QMenu* select);
   QWidget* BuildLowerPane();
   PipelineEnv SampleEnv();
   void ViewSelectionToList();
@@ -147,6 +167,10 @@ class MainWindow : public QMainWindow, public ProgressView {
   void OpenPatternPicker(QLineEdit* field);
   void OpenPath(const std::string& path);
   void FolderChosen(const QModelIndex& index);
+  // Selects the current folder in the tree and scrolls it into view; the
+  // tree reads folders in the background, so this runs again as they load.
+  void RevealCurrentFolder();
+  void FolderLoaded(const QString& path);
   void FlushStatus();
   void UpdateFilterItems();
 
@@ -172,6 +196,11 @@ class MainWindow : public QMainWindow, public ProgressView {
   QFileSystemWatcher* watcher_ = nullptr;
   QTreeView* folders_ = nullptr;
   QTableView* files_ = nullptr;
+  QListView* names_ = nullptr;
+  QStackedWidget* list_views_ = nullptr;
+  ListViewMode view_mode_ = ListViewMode::kDetails;
+  QList<QAction*> view_mode_actions_;  // list, details, symbols
+  QList<QAction*> list_actions_;
   QComboBox* extension_ = nullptr;
   QCheckBox* subfolders_ = nullptr;
   RenameControls* controls_ = nullptr;
@@ -188,6 +217,8 @@ class MainWindow : public QMainWindow, public ProgressView {
   QTimer status_flush_;
   QElapsedTimer status_clock_;
   QString pending_status_;
+  QString folder_to_reveal_;  // shown in the tree once its parents are read
+  QTimer reveal_timeout_;     // stops following the tree's loads
   QString pending_frame_;
   SampleRate rate_ = SampleRate::kNormal;
   int sample_length_ = 0;

@@ -34,8 +34,9 @@ void MainWindow::BuildMenus() {
   file->addAction(Msg(messages_, "main.button.exit"), QKeySequence::Quit, this, &QWidget::close);
 
   QMenu* view = menuBar()->addMenu(Msg(messages_, "main.menu.view"));
-  view->addAction(Msg(messages_, "main.menu.refresh"), QKeySequence(Qt::Key_F5), this,
-                  &MainWindow::FillListFiles);
+  QAction* refresh = view->addAction(Msg(messages_, "main.menu.refresh"), QKeySequence(Qt::Key_F5),
+                                     this, &MainWindow::FillListFiles);
+  BuildViewModeMenu(view);
   QAction* new_names = view->addAction(Msg(messages_, "main.menu.new_name_column"));
   new_names->setCheckable(true);
   new_names->setChecked(new_names_shown_);
@@ -63,6 +64,7 @@ void MainWindow::BuildMenus() {
   select->addSeparator();
   select->addAction(Msg(messages_, "main.menu.remove_from_list"), this,
                     &MainWindow::RemoveSelectedFromList);
+  BuildListMenu(refresh, select);
 
   QMenu* tools = menuBar()->addMenu(Msg(messages_, "main.menu.tools"));
   tools->addAction(Msg(messages_, "main.menu.options") + " ...", this, &MainWindow::EditOptions);

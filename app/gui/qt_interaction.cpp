@@ -125,8 +125,10 @@ ManualRenameAnswer QtInteraction::AskManualRename(const ManualRenameRequest& req
   return dialog.answer();
 }
 
+void QtInteraction::PlayWave(const std::string& path) { sound_.Play(Q(path)); }
+
 void QtInteraction::ShowTestResults(const std::vector<TestResultRow>& rows) {
-  TestResultsDialog dialog(rows, messages_, window_);
+  TestResultsDialog dialog(rows, messages_, *this, window_);
   dialog.exec();
 }
 

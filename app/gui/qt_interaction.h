@@ -5,6 +5,7 @@
 #include <QPointer>
 #include <functional>
 
+#include "finish_sound.h"
 #include "shell/interaction.h"
 #include "shell/message_table.h"
 
@@ -48,7 +49,7 @@ class QtInteraction : public QObject, public Interaction {
   void ShowProgress(std::int64_t value, std::int64_t max) override;
   void HideProgress() override;
   void SetControlsEnabled(bool enabled, bool keep_busy_indicator) override;
-  void PlayWave(const std::string& path) override {}
+  void PlayWave(const std::string& path) override;
   bool PollCancel() override;
   void Yield() override;
 
@@ -65,6 +66,7 @@ class QtInteraction : public QObject, public Interaction {
   void HandleEvents();
   QElapsedTimer since_events_;
   bool esc_pressed_ = false;
+  FinishSound sound_;
 };
 
 }  // namespace tarnwick::gui

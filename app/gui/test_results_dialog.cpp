@@ -9,6 +9,7 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include "core/result_batch.h"
 #include "qt_text.h"
 
 namespace tarnwick::gui {
@@ -38,8 +39,9 @@ void Colour(QTreeWidgetItem* item, const TestResultRow& row) {
 }  // namespace
 
 TestResultsDialog::TestResultsDialog(const std::vector<TestResultRow>& rows,
-                                     const MessageTable& messages, QWidget* parent)
-    : QDialog(parent), rows_(rows) {
+                                     const MessageTable& messages, Interaction& interaction,
+                                     QWidget* parent)
+    : QDialog(parent), rows_(rows), messages_(messages), interaction_(interaction) {
   setWindowTitle(Msg(messages, "result_list.title"));
   resize(760, 420);
   auto* layout = new QVBoxLayout(this);
@@ -71,11 +73,15 @@ TestResultsDialog::TestResultsDialog(const std::vector<TestResultRow>& rows,
   auto* buttons = new QDialogButtonBox(this);
   auto* copy = buttons->addButton(Msg(messages, "result_list.copy_to_clipboard"),
                                   QDialogButtonBox::ActionRole);
+  auto* batch =
+      buttons->addButton(Msg(messages, "result_list.create_batch"), QDialogButtonBox::ActionRole);
+  batch->setObjectName("cmdCreateBatch");
   auto* close =
       buttons->addButton(Msg(messages, "result_list.close"), QDialogButtonBox::AcceptRole);
   layout->addWidget(buttons);
   connect(copy, &QPushButton::clicked, this,
           [this] { QApplication::clipboard()->setText(ClipboardText()); });
+  connect(batch, &QPushButton::clicked, this, &TestResultsDialog::CreateBatch);
   connect(close, &QPushButton::clicked, this, &QDialog::accept);
 }
 
@@ -86,6 +92,25 @@ QString TestResultsDialog::ClipboardText() const {
         JoinPath(row.folder, row.present_name) + '\t' + JoinPath(row.folder, row.new_name) + "\r\n";
   }
   return text;
+}
+
+void TestResultsDialog::CreateBatch() {
+  const std::string filter = std::string(messages_.Text("result_list.filter_batch_file"));
+  FileChooserRequest request;
+  request.title = messages_.Text("result_list.title_save_batch");
+  request.filters = {{filter + " (*.bat)", "*.bat"}};
+  request.default_extension = "bat";
+  request.for_saving = true;
+  const std::optional<std::string> path = interaction_.ChooseFile(request);
+  if (!path || path->empty()) return;
+  const std::optional<std::string> error = SaveResultListBatch(*path, rows_);
+  if (!error) return;
+  MessageBoxRequest box;
+  box.title = messages_.Text("result_list.title_save_batch");
+  box.text =
+      std::string(messages_.Text("result_list.batch_not_written")) + " " + *path + "\n" + *error;
+  box.icon = MessageIcon::kCritical;
+  interaction_.ShowMessage(box);
 }
 
 }  // namespace tarnwick::gui

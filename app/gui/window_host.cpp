@@ -2,8 +2,10 @@
 
 #include <QGuiApplication>
 #include <QScreen>
+#include <algorithm>
 
 #include "core/start_rename.h"
+#include "desktop_integration.h"
 #include "main_window.h"
 #include "qt_text.h"
 #include "unattended_start.h"
@@ -17,7 +19,20 @@ std::optional<ScreenSize> WindowHost::Screen() const {
   return ScreenSize{area.width(), area.height()};
 }
 
-void WindowHost::PlaceMainWindow(int top, int left) { window_.move(left, top); }
+// Start-up has put the corner on the screen; the window moves back as far as
+// it must to show its whole frame, but never past the screen's top left.
+void WindowHost::PlaceMainWindow(int top, int left) {
+  const QScreen* screen = QGuiApplication::primaryScreen();
+  if (screen == nullptr) {
+    window_.move(left, top);
+    return;
+  }
+  const QRect area = screen->availableGeometry();
+  const QSize size = window_.frameGeometry().size();
+  const int x = std::max(area.left(), std::min(left, area.right() + 1 - size.width()));
+  const int y = std::max(area.top(), std::min(top, area.bottom() + 1 - size.height()));
+  window_.move(x, y);
+}
 
 bool WindowHost::MainWindowNormal() const {
   return !window_.isMinimized() && !window_.isMaximized() && !window_.isFullScreen();
@@ -52,6 +67,10 @@ BatchRunOutcome WindowHost::RunBatch() {
 }
 
 void WindowHost::ApplySampleRate() { window_.ApplySampleRate(); }
+
+void WindowHost::RegisterFileAssociation() {
+  RegisterSettingsFileType(std::string(window_.messages().Text("settings_file.filter")));
+}
 void WindowHost::ShowMainWindow() { window_.show(); }
 void WindowHost::StartFolderWatch() { window_.StartFolderWatch(); }
 void WindowHost::StopFolderWatch() { window_.StopFolderWatch(); }

@@ -25,6 +25,7 @@ class WindowHost : public StartupHost {
   std::int64_t RowCount() const override;
   BatchRunOutcome RunBatch() override;
   void ApplySampleRate() override;
+  void RegisterFileAssociation() override;
   void ShowMainWindow() override;
   void StartFolderWatch() override;
   void StopFolderWatch() override;

@@ -109,4 +109,23 @@ bool SortOrderEditor::ResetToDefault(Interaction& interaction, const MessageTabl
 
 void SortOrderEditor::Store(OptionStore& options) const { StoreActionOrder(options, order_); }
 
+std::string ActionOrderSummary(const ActionOrder& order, const std::function<bool(int)>& ticked,
+                               const MessageTable& messages) {
+  const bool is_default = order == DefaultActionOrder();
+  std::string names;
+  const auto add = [&](int code) {
+    if (code == 0) return;
+    if (!names.empty()) names += " > ";
+    names += ActionDisplayName(code, messages);
+  };
+  for (const int code : order) {
+    if (ticked(code)) add(code);
+  }
+  if (names.empty() && !is_default) {
+    for (const int code : order) add(code);
+  }
+  const std::string head(messages.Text(is_default ? "order.summary_default" : "order.summary_own"));
+  return names.empty() ? head : head + ": " + names;
+}
+
 }  // namespace tarnwick

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <functional>
 #include <string>
 
 namespace tarnwick {
@@ -42,6 +43,13 @@ void StoreActionOrder(OptionStore& options, const ActionOrder& order);
 // The display name of an action: "Prefix" and "Postfix" in every language,
 // the others from the message table. Empty for a code outside 1 to 10.
 std::string ActionDisplayName(int code, const MessageTable& messages);
+
+// What `lblActionOrder` shows after its caption: "Default order" or "Own
+// order", then the ticked actions in the order they run ("Prefix > Postfix").
+// With no action ticked, an own order lists all ten actions so the change is
+// visible; the default order then shows just "Default order".
+std::string ActionOrderSummary(const ActionOrder& order, const std::function<bool(int)>& ticked,
+                               const MessageTable& messages);
 
 // The dialogue `frmSortOrder` ("Edit sort order") without its window: the
 // ten rows with their position, their default action and the action that runs

@@ -21,7 +21,7 @@ std::string FileList::Text(std::size_t row, int column) const {
     case fc::kName:
       return r.name;
     case fc::kSize:
-      return FormatFileSize(r.size);
+      return FormatFileSize(r.size, language_);
     case fc::kType:
       return r.name_only ? std::string() : types_[r.type];
     case fc::kDate:

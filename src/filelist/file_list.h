@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "filelist/file_row.h"
+#include "shell/message_table.h"
 
 namespace tarnwick {
 
@@ -44,6 +45,8 @@ class FileList {
   void Clear();
   // The `DateFormat` the date columns of this fill are shown in.
   void set_date_format(std::string format) { date_format_ = std::move(format); }
+  // The language of the size column's text.
+  void set_language(Language language) { language_ = language; }
   const std::string& date_format() const { return date_format_; }
   std::uint32_t AddFolder(std::string folder);
   std::uint32_t InternType(std::string_view type_text);
@@ -91,6 +94,7 @@ class FileList {
   std::unordered_map<std::string, std::uint32_t> type_index_;
   std::vector<std::string> media_texts_{std::string()};
   std::string date_format_ = "dd.mm.yyyy";
+  Language language_ = Language::kEnglish;
   std::vector<SortColumn> sort_columns_;
 };
 

@@ -90,6 +90,7 @@ void FileListLoader::ReportReadError(const std::string& folder, const FolderRead
 
 void FileListLoader::FillListView(FileList& list, const FillRequest& request) {
   list.Clear();
+  list.set_language(context_.messages.language());
   list.set_date_format(vb::LCase(context_.options.GetOption("DateFormat", kOptions, "dd.mm.yyyy")));
   extensions_.Clear();
   key_still_down_ = false;

@@ -10,6 +10,7 @@
 #include "filelist/file_list_context.h"
 #include "filelist/folder_read.h"
 #include "filelist/type_text_cache.h"
+#include "shell/message_table.h"
 
 namespace tarnwick {
 
@@ -33,7 +34,8 @@ struct FillRequest {
 // with ESC".
 class FileListLoader {
  public:
-  explicit FileListLoader(FileListContext context) : context_(context) {}
+  explicit FileListLoader(FileListContext context)
+      : context_(context), types_(context.messages.language()) {}
 
   // `FillListFiles`: a fill with the window's share: the hidden and system
   // flags taken from the options, status texts, the controls disabled during

@@ -22,19 +22,20 @@ std::unordered_map<std::string, std::string> ParsePairs(std::string_view text) {
 
 }  // namespace
 
-TypeTextCache::TypeTextCache(std::string_view initial, std::string_view fixed)
-    : cache_(ParsePairs(initial)), fixed_(ParsePairs(fixed)) {}
+TypeTextCache::TypeTextCache(std::string_view initial, std::string_view fixed, Language language)
+    : cache_(ParsePairs(initial)), fixed_(ParsePairs(fixed)), language_(language) {}
 
 // The texts are the same in both languages.
-TypeTextCache::TypeTextCache()
+TypeTextCache::TypeTextCache(Language language)
     : TypeTextCache(MessageTable::Get(Language::kEnglish).Text("filelist.type_cache.folder"),
-                    MessageTable::Get(Language::kEnglish).Text("filelist.type_cache.fixed")) {}
+                    MessageTable::Get(Language::kEnglish).Text("filelist.type_cache.fixed"),
+                    language) {}
 
 const std::string& TypeTextCache::TypeTextFor(std::string_view key) {
   const std::string k(key);
   if (const auto fixed = fixed_.find(k); fixed != fixed_.end()) return fixed->second;
   if (const auto cached = cache_.find(k); cached != cache_.end()) return cached->second;
-  return cache_.emplace(k, DescribeFileType(key)).first->second;
+  return cache_.emplace(k, DescribeFileType(key, language_)).first->second;
 }
 
 bool TypeTextCache::IsFixed(std::string_view key) const {
@@ -45,10 +46,11 @@ std::string TypeKeyOf(std::string_view file_name) {
   return std::string(kFileKeyPrefix) + vb::LCase(ExtensionName(file_name));
 }
 
-std::string DescribeFileType(std::string_view key) {
+std::string DescribeFileType(std::string_view key, Language language) {
+  const bool german = language == Language::kGerman;
   if (key.starts_with(kFileKeyPrefix)) key.remove_prefix(kFileKeyPrefix.size());
-  if (key.empty()) return "File";
-  return vb::UCase(key) + " File";
+  if (key.empty()) return german ? "Datei" : "File";
+  return vb::UCase(key) + (german ? "-Datei" : " File");
 }
 
 }  // namespace tarnwick

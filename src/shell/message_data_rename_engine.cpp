@@ -125,6 +125,8 @@ constexpr MessageEntry kEntries[] = {
     {0, "result_list.legend_renamed", "black = renamed", "schwarz = umbenannt"},
     {0, "result_list.title_save_batch", "Save batch file", "Batchdatei speichern"},
     {0, "result_list.filter_batch_file", "batch file", "Batchdatei"},
+    {0, "result_list.batch_not_written", "The batch file could not be written:",
+     "Die Batchdatei konnte nicht geschrieben werden:"},
 
     // Run: errors.
     {715, "run.log_error", "! ERROR:", "! FEHLER:"},
@@ -193,6 +195,8 @@ constexpr MessageEntry kEntries[] = {
     {0, "order.really_set_default", "Do you really want to set all values to default?",
      "Möchten Sie wirklich alle Werte auf den Standard zurücksetzen?"},
     {0, "order.title_clear_settings", "Clear settings", "Einstellungen zurücksetzen"},
+    {0, "order.summary_default", "Default order", "Standardreihenfolge"},
+    {0, "order.summary_own", "Own order", "Eigene Reihenfolge"},
 
     // Manual rename dialogue.
     {0, "manual.title", "Manual renaming", "Manuelles Umbenennen"},

@@ -1,5 +1,6 @@
 #include "shell/message_table.h"
 
+#include <cctype>
 #include <cstdlib>
 #include <span>
 
@@ -48,6 +49,14 @@ Language LanguageFromLocale(std::string_view lc_all, std::string_view lc_message
 Language SystemLanguage() {
   return LanguageFromLocale(EnvironmentValue("LC_ALL"), EnvironmentValue("LC_MESSAGES"),
                             EnvironmentValue("LANG"));
+}
+
+Language LanguageChoice(std::string_view stored) {
+  std::string lower(stored);
+  for (char& c : lower) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+  if (lower == "english" || lower == "en") return Language::kEnglish;
+  if (lower == "deutsch" || lower == "de") return Language::kGerman;
+  return SystemLanguage();
 }
 
 MessageTable::MessageTable(Language language) : language_(language) {

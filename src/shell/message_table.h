@@ -21,6 +21,11 @@ Language SystemLanguage();
 Language LanguageFromLocale(std::string_view lc_all, std::string_view lc_messages,
                             std::string_view lang);
 
+// The language the user chose in the options (`Language`, read at start):
+// "English" or "en" gives English, "Deutsch" or "de" German (without regard
+// to case), anything else, such as "System language", the system's.
+Language LanguageChoice(std::string_view stored);
+
 // Every caption and message text of the program, in one language, found by
 // its number or by its key (see message_entry.h). Both lookups are constant
 // time; the table is built once per language and read for every file of a run.

@@ -28,6 +28,17 @@ TEST(FormatFileSizeTest, MovesUpAUnitAtOneThousand) {
   EXPECT_EQ(FormatFileSize(UINT64_MAX), "15.9 EB");
 }
 
+TEST(FormatFileSizeTest, GermanSaysBytesAndUsesADecimalComma) {
+  constexpr Language kDe = Language::kGerman;
+  EXPECT_EQ(FormatFileSize(0, kDe), "0 Bytes");
+  EXPECT_EQ(FormatFileSize(1023, kDe), "1023 Bytes");
+  EXPECT_EQ(FormatFileSize(1535, kDe), "1,49 KB");
+  EXPECT_EQ(FormatFileSize(10 * 1024 + 1023, kDe), "10,9 KB");
+  EXPECT_EQ(FormatFileSize(1023999, kDe), "999 KB");
+  EXPECT_EQ(FormatFileSize(1024000, kDe), "0,97 MB");
+  EXPECT_EQ(FormatFileSize(1535, Language::kEnglish), "1.49 KB");
+}
+
 TEST(AttributeTextTest, LettersInTheListOrder) {
   EXPECT_EQ(AttributeText(0), "");
   EXPECT_EQ(AttributeText(0x10), "");

@@ -33,6 +33,24 @@ TEST_F(FillTest, RowsComeInNameOrderWithoutRegardToCaseAndNeverHoldFolders) {
   EXPECT_THAT(loader_.Extensions(), ElementsAre("*.", "*.*", "*.jpg", "*.txt"));
 }
 
+TEST_F(FillTest, TypeAndSizeTextsFollowTheLanguageOfTheMessages) {
+  Write("a.JPG", std::string(1536, 'x'));
+  Write("b", "12345");
+  Fill();
+  EXPECT_THAT(Column(fc::kType), ElementsAre("JPG File", "File"));
+  EXPECT_THAT(Column(fc::kSize), ElementsAre("1.50 KB", "5 bytes"));
+
+  FileListContext german{options_, state_, ui_, log_, media_, MessageTable::Get(Language::kGerman)};
+  FileListLoader loader(german);
+  FileList list;
+  loader.FillListView(list, {root().string(), false});
+  ASSERT_EQ(list.size(), 2u);
+  EXPECT_EQ(list.Text(0, fc::kType), "JPG-Datei");
+  EXPECT_EQ(list.Text(1, fc::kType), "Datei");
+  EXPECT_EQ(list.Text(0, fc::kSize), "1,50 KB");
+  EXPECT_EQ(list.Text(1, fc::kSize), "5 Bytes");
+}
+
 TEST_F(FillTest, NamesDifferingOnlyInCaseKeepAFixedOrder) {
   Write("Zeta");
   Write("zeta");

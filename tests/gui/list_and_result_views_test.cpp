@@ -3,11 +3,15 @@
 #include <QBrush>
 #include <QCheckBox>
 #include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
 #include <QTreeWidget>
 
 #include "file_list_model.h"
 #include "gui/gui_test_support.h"
 #include "save_settings_dialog.h"
+#include "shell/scripted_interaction.h"
+#include "support/temp_dir.h"
 #include "test_results_dialog.h"
 
 namespace tarnwick::testing {
@@ -71,13 +75,14 @@ TEST_F(ListModelTest, HeadingsAndTheNewNameColumn) {
 class ResultViewsTest : public GuiTest {
  protected:
   const MessageTable& messages = MessageTable::Get(Language::kEnglish);
+  ScriptedInteraction interaction;
 };
 
 TEST_F(ResultViewsTest, TestResultsAreColouredAndCopiedAsPathPairs) {
   const std::vector<TestResultRow> rows = {{"same.txt", "same.txt", "/a"},
                                            {"old.txt", "new.txt", "/a/"},
                                            {"bad.txt", "<Could not be written>", "/b"}};
-  gui::TestResultsDialog dialog(rows, messages);
+  gui::TestResultsDialog dialog(rows, messages, interaction);
   QTreeWidget* list = dialog.list();
   ASSERT_EQ(list->topLevelItemCount(), 3);
   EXPECT_EQ(list->topLevelItem(0)->foreground(1).color(), QColor(Qt::blue));
@@ -87,6 +92,36 @@ TEST_F(ResultViewsTest, TestResultsAreColouredAndCopiedAsPathPairs) {
   EXPECT_EQ(dialog.ClipboardText(),
             "/a/same.txt\t/a/same.txt\r\n/a/old.txt\t/a/new.txt\r\n"
             "/b/bad.txt\t/b/<Could not be written>\r\n");
+}
+
+TEST_F(ResultViewsTest, CreateBatchAsksForAFileAndWritesTheRenames) {
+  TempDir dir;
+  const std::vector<TestResultRow> rows = {{"same.txt", "same.txt", "/a"},
+                                           {"old.txt", "new name.txt", "/a"},
+                                           {"bad.txt", "<Could not be written>", "/b"}};
+  gui::TestResultsDialog dialog(rows, messages, interaction);
+  auto* button = dialog.findChild<QPushButton*>("cmdCreateBatch");
+  ASSERT_NE(button, nullptr);
+  EXPECT_EQ(button->text(), "Create batch ...");
+
+  const std::string path = (dir.path() / "renames.bat").string();
+  interaction.Then(TextAnswer{path});
+  QTest::mouseClick(button, Qt::LeftButton);
+  ASSERT_EQ(interaction.asked().size(), 1u);
+  EXPECT_EQ(interaction.asked()[0].title, "Save batch file");
+  EXPECT_EQ(dir.ReadFile("renames.bat"),
+            "@echo off\r\nmove \"/a/old.txt\" \"/a/new name.txt\"\r\n"
+            "rem \"/b/bad.txt\" \"/b/<Could not be written>\"\r\n");
+
+  // Cancel writes nothing; a folder that is not there gives an error box.
+  interaction.Then(Cancelled{});
+  dialog.CreateBatch();
+  interaction.Then(TextAnswer{(dir.path() / "missing" / "x.bat").string()});
+  interaction.SetDefault(QuestionKind::kMessageBox, Answer::kOk);
+  dialog.CreateBatch();
+  ASSERT_EQ(interaction.asked().size(), 4u);
+  EXPECT_NE(interaction.asked()[3].text.find("could not be written"), std::string::npos);
+  EXPECT_FALSE(std::filesystem::exists(dir.path() / "missing"));
 }
 
 TEST_F(ResultViewsTest, SaveDialogAnswersOnlyWithAPath) {

@@ -2,15 +2,26 @@
 // sample, the "New name" column, a run with scripted answers.
 #include "main_window.h"
 
+#include <QAction>
 #include <QCheckBox>
+#include <QDialog>
+#include <QFileSystemModel>
 #include <QGroupBox>
+#include <QGuiApplication>
+#include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QPushButton>
+#include <QScreen>
 #include <QTableView>
 #include <QTest>
+#include <QTimer>
+#include <QTreeView>
 #include <filesystem>
 
+#include "core/action_order.h"
 #include "core/settings_file.h"
+#include "desktop_integration.h"
 #include "file_list_model.h"
 #include "gui/gui_test_support.h"
 #include "persist/option_store.h"
@@ -18,6 +29,7 @@
 #include "shell/scripted_interaction.h"
 #include "startup/startup.h"
 #include "support/temp_dir.h"
+#include "window_host.h"
 
 namespace tarnwick::testing {
 namespace {
@@ -193,6 +205,112 @@ TEST_F(MainWindowTest, AStartWithASettingsFileShowsItsControls) {
   EXPECT_TRUE(started.findChild<QCheckBox*>("chkIncludeSubfolders")->isChecked());
   EXPECT_EQ(started.app().CurrentPath, dir.str());
   EXPECT_EQ(started.list().size(), 3u);
+  // The first start registered ".twr" for the user and remembers it.
+  EXPECT_TRUE(std::filesystem::exists(gui::ProgramDesktopFilePath()));
+  EXPECT_TRUE(std::filesystem::exists(gui::SettingsMimeTypePath()));
+  EXPECT_EQ(options.GetOption("SetFileAssoc", "Options", "0"), "1");
+}
+
+TEST_F(MainWindowTest, TheOrderLabelNamesTheTickedActionsInTheirOrder) {
+  QLabel* label = Control<QLabel>("lblActionOrder");
+  window->activateWindow();
+  ASSERT_TRUE(WaitFor([&] { return label->text() == "Order: Default order"; }))
+      << label->text().toStdString();
+  Tick("chkPrefix");
+  Tick("chkPostfix");
+  ASSERT_TRUE(WaitFor([&] { return label->text() == "Order: Default order: Prefix > Postfix"; }))
+      << label->text().toStdString();
+
+  // Postfix moved before Prefix: only the ticked ones are named, in run order.
+  StoreActionOrder(options, {1, 2, 3, 4, 7, 6, 5, 8, 9, 10});
+  ASSERT_TRUE(WaitFor([&] { return label->text() == "Order: Own order: Postfix > Prefix"; }))
+      << label->text().toStdString();
+
+  // A double click still opens the order dialogue.
+  QString opened;
+  QTimer::singleShot(50, [&] {
+    if (QWidget* dialog = QApplication::activeModalWidget()) {
+      opened = dialog->windowTitle();
+      static_cast<QDialog*>(dialog)->reject();
+    }
+  });
+  QTest::mouseDClick(label, Qt::LeftButton);
+  EXPECT_EQ(opened, "Edit sort order");
+}
+
+TEST_F(MainWindowTest, TheWindowStaysOnTheScreenAndTheTreeShowsTheCurrentFolder) {
+  const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
+  gui::WindowHost host(*window);
+  window->resize(area.width() / 2, area.height() / 2);
+  host.PlaceMainWindow(area.top() + 10, area.left() + 20);
+  EXPECT_EQ(window->frameGeometry().topLeft(), QPoint(area.left() + 20, area.top() + 10));
+  // A corner near the far edge moves back until the whole frame shows.
+  host.PlaceMainWindow(area.bottom() - 5, area.right() - 5);
+  EXPECT_TRUE(area.contains(window->frameGeometry())) << window->x() << "," << window->y();
+  EXPECT_EQ(window->frameGeometry().right(), area.right());
+  // A window larger than the screen keeps its top left corner visible.
+  window->resize(area.width() + 300, area.height() + 300);
+  host.PlaceMainWindow(area.top() + 40, area.left() + 40);
+  EXPECT_EQ(window->frameGeometry().topLeft(), area.topLeft());
+
+  // A folder deep below the test folder is current and visible in the tree.
+  window->resize(1100, 760);
+  std::filesystem::path deep = dir.path();
+  for (const char* part : {"one", "two", "three", "four"}) deep /= part;
+  std::filesystem::create_directories(deep);
+  window->ShowFolder(QString::fromStdString(deep.string()));
+  QTreeView* tree = window->folder_view();
+  const auto* model = static_cast<const QFileSystemModel*>(tree->model());
+  ASSERT_TRUE(WaitFor([&] {
+    const QModelIndex current = tree->currentIndex();
+    return model->filePath(current).toStdString() == deep.string() &&
+           tree->viewport()->rect().contains(tree->visualRect(current));
+  }));
+}
+
+TEST_F(MainWindowTest, ViewModesShareTheSelectionAndTheListMenuActs) {
+  ASSERT_EQ(window->list().size(), 3u);
+  window->file_view()->selectRow(1);
+  window->SetListViewMode(MainWindow::ListViewMode::kSymbols);
+  QListView* names = window->name_view();
+  ASSERT_TRUE(names->isVisible());
+  EXPECT_FALSE(window->file_view()->isVisible());
+  EXPECT_EQ(names->viewMode(), QListView::IconMode);
+  const QModelIndex b = names->model()->index(1, 0);
+  EXPECT_TRUE(names->selectionModel()->isSelected(b));
+  EXPECT_FALSE(names->model()->data(b, Qt::DecorationRole).isNull());
+
+  // A selection made in the list mode is the core list's selection.
+  window->SetListViewMode(MainWindow::ListViewMode::kList);
+  EXPECT_EQ(names->viewMode(), QListView::ListMode);
+  EXPECT_TRUE(names->model()->data(b, Qt::DecorationRole).isNull());
+  names->selectionModel()->select(names->model()->index(2, 0), QItemSelectionModel::Select);
+  EXPECT_TRUE(window->list().IsSelected(1));
+  EXPECT_TRUE(window->list().IsSelected(2));
+  EXPECT_FALSE(window->list().IsSelected(0));
+
+  // The right mouse button's menu: invert, then remove from the list.
+  const auto action = [&](const char* text) -> QAction* {
+    for (QAction* a : names->actions()) {
+      if (a->text() == text) return a;
+    }
+    ADD_FAILURE() << text;
+    return nullptr;
+  };
+  EXPECT_EQ(names->contextMenuPolicy(), Qt::ActionsContextMenu);
+  EXPECT_EQ(window->file_view()->actions(), names->actions());
+  action("Invert selection")->trigger();
+  EXPECT_TRUE(window->list().IsSelected(0));
+  EXPECT_FALSE(window->list().IsSelected(1));
+  action("Remove from list")->trigger();
+  EXPECT_EQ(window->list().size(), 2u);
+  EXPECT_TRUE(Exists("a.txt"));
+  action("Refresh file list")->trigger();
+  EXPECT_EQ(window->list().size(), 3u);
+
+  window->SetListViewMode(MainWindow::ListViewMode::kDetails);
+  EXPECT_TRUE(window->file_view()->isVisible());
+  EXPECT_FALSE(names->isVisible());
 }
 
 }  // namespace

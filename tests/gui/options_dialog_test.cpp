@@ -60,6 +60,8 @@ TEST_F(OptionsDialogTest, OkStoresEveryValueAndDefaultRestoresThem) {
     if (std::string_view(row.key) == "DateFormat") expected = "x_dateformat";
     EXPECT_EQ(options.GetOption(row.key, "Options", "?"), expected) << row.key;
   }
+  // The next start reads the language switched to.
+  EXPECT_EQ(LanguageChoice(options.GetOption("Language", "Options", "")), Language::kGerman);
 
   OptionsDialog dialog(options, messages, questions, computed);
   EXPECT_EQ(dialog.Shown("SampleRefreshRate"), "Special");
@@ -72,6 +74,7 @@ TEST_F(OptionsDialogTest, OkStoresEveryValueAndDefaultRestoresThem) {
   EXPECT_EQ(dialog.Shown("BasisNameUndoBatch"), "UndoBatch");
   EXPECT_EQ(dialog.Shown("LogFilePath"), "/logs/Tarnwick.log");
   EXPECT_EQ(dialog.Shown("FileDateType"), "Created");
+  EXPECT_EQ(dialog.Shown("Language"), "System language");
   dialog.reject();  // Cancel: the stored values stay
   EXPECT_EQ(options.GetOption("WriteLogFile", "Options", "?"), "0");
 }
@@ -87,6 +90,7 @@ TEST_F(OptionsDialogTest, ShredderTimesOutsideTheRangeBecomeEight) {
 
 TEST_F(OptionsDialogTest, TheFolderActionIsWrittenAndRemoved) {
   TempDir data;
+  const QByteArray before = qgetenv("XDG_DATA_HOME");
   qputenv("XDG_DATA_HOME", QByteArray::fromStdString(data.str()));
   ASSERT_TRUE(gui::SetFolderAction(true, "Run Tarnwick"));
   const std::string entry = data.ReadFile("applications/tarnwick-folder.desktop");
@@ -95,6 +99,30 @@ TEST_F(OptionsDialogTest, TheFolderActionIsWrittenAndRemoved) {
   ASSERT_TRUE(gui::SetFolderAction(false, "Run Tarnwick"));
   EXPECT_FALSE(QFile::exists(QString::fromStdString(gui::FolderActionPath())));
   EXPECT_TRUE(gui::SetFolderAction(false, "Run Tarnwick"));  // nothing to remove
+  qputenv("XDG_DATA_HOME", before);
+}
+
+TEST_F(OptionsDialogTest, TheSettingsFileTypeIsRegisteredForTheUser) {
+  TempDir data;
+  const QByteArray before = qgetenv("XDG_DATA_HOME");
+  qputenv("XDG_DATA_HOME", QByteArray::fromStdString(data.str()));
+  ASSERT_TRUE(gui::RegisterSettingsFileType("Tarnwick <settings> file", false));
+  const std::string mime = data.ReadFile("mime/packages/tarnwick-settings.xml");
+  EXPECT_NE(mime.find("<mime-type type=\"application/x-tarnwick-settings\">"), std::string::npos);
+  EXPECT_NE(mime.find("<glob pattern=\"*.twr\"/>"), std::string::npos);
+  EXPECT_NE(mime.find("<comment>Tarnwick &lt;settings&gt; file</comment>"), std::string::npos);
+  const std::string entry = data.ReadFile("applications/tarnwick.desktop");
+  EXPECT_NE(entry.find("MimeType=application/x-tarnwick-settings;\n"), std::string::npos);
+  EXPECT_NE(entry.find("\" %f\n"), std::string::npos);
+  // Written again over the old files, as a second registration does.
+  EXPECT_TRUE(gui::RegisterSettingsFileType("Tarnwick settings file", false));
+  EXPECT_NE(data.ReadFile("mime/packages/tarnwick-settings.xml").find("<comment>Tarnwick settings"),
+            std::string::npos);
+  // A data folder that cannot be made gives false.
+  data.WriteFile("blocked", "a file, not a folder");
+  qputenv("XDG_DATA_HOME", QByteArray::fromStdString((data.path() / "blocked").string()));
+  EXPECT_FALSE(gui::RegisterSettingsFileType("Tarnwick settings file", false));
+  qputenv("XDG_DATA_HOME", before);
 }
 
 }  // namespace

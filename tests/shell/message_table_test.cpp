@@ -147,6 +147,21 @@ TEST(LanguageTest, FirstSetVariableDecides) {
   EXPECT_EQ(LanguageFromLocale("", "", "dk_DK"), Language::kEnglish);
 }
 
+TEST(LanguageTest, TheOptionsChoiceWinsOverTheSystem) {
+  // Both words are the same in either language, so a switch made in German
+  // reads the same at the next start in English.
+  for (Language shown : {Language::kEnglish, Language::kGerman}) {
+    const MessageTable& table = MessageTable::Get(shown);
+    EXPECT_EQ(LanguageChoice(table.Text("options.language_german")), Language::kGerman);
+    EXPECT_EQ(LanguageChoice(table.Text("options.language_english")), Language::kEnglish);
+    EXPECT_EQ(LanguageChoice(table.Text("options.language_system")), SystemLanguage());
+  }
+  EXPECT_EQ(LanguageChoice("DE"), Language::kGerman);
+  EXPECT_EQ(LanguageChoice("en"), Language::kEnglish);
+  EXPECT_EQ(LanguageChoice(""), SystemLanguage());
+  EXPECT_EQ(LanguageChoice("Klingon"), SystemLanguage());
+}
+
 // Sets or clears an environment variable for the life of the object.
 class ScopedEnv {
  public:
