@@ -30,7 +30,7 @@ cp "$root/tests/fixtures/exif/full_intel.jpg" "$photos/DSC_7001.jpg"
 cp "$root/tests/fixtures/mp3/v23_latin1.mp3" "$photos/track01.mp3"
 touch -d '2026-07-14 09:30:00' "$photos"/*
 
-say "Tarnwick $("$cli" --version | head -n 1): unattended demo (no display found)"
+say "$("$cli" --version | head -n 1): unattended demo (no display found)"
 echo "Sample folder: $photos"
 echo "Options, log and undo batches of this demo live under $demo"
 
