@@ -60,9 +60,9 @@ std::string SystemShortDate() {
 
 }  // namespace
 
-StartupInput MachineStartupInput(std::string command_line) {
+StartupInput MachineStartupInput(std::vector<std::string> arguments) {
   StartupInput input;
-  input.command_line = std::move(command_line);
+  input.arguments = std::move(arguments);
   std::error_code error;
   input.working_folder = std::filesystem::current_path(error).string();
   input.data_base_folder = UserDataBaseFolder();

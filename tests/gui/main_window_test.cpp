@@ -197,7 +197,7 @@ TEST_F(MainWindowTest, AStartWithASettingsFileShowsItsControls) {
   MainWindow started(options, MessageTable::Get(Language::kEnglish), &interaction);
   interaction.SetDefault(QuestionKind::kMessageBox, Answer::kOk);
   const StartupResult result =
-      RunStartup(started.env(), started.settings(), started.host(), MachineStartupInput(file));
+      RunStartup(started.env(), started.settings(), started.host(), MachineStartupInput({file}));
   ASSERT_EQ(result.outcome, StartupResult::Outcome::kReady) << result.error;
   EXPECT_TRUE(started.findChild<QCheckBox*>("chkPrefix")->isChecked());
   EXPECT_EQ(started.findChild<QLineEdit*>("txtPrefix")->text(), "Trip_");
