@@ -6,6 +6,7 @@
 #include <QTableView>
 #include <chrono>
 
+#include "dialog_screenshot.h"
 #include "main_window.h"
 #include "persist/option_store.h"
 #include "qt_text.h"
@@ -22,6 +23,8 @@ std::string JoinArguments(std::span<const std::string> args) {
   }
   return line;
 }
+
+}  // namespace
 
 // Start-up of the window with `line` as the command line. False when start-up
 // ended the process.
@@ -41,8 +44,6 @@ bool StartWindow(MainWindow& window, const std::string& line, std::ostream& err)
 Language ChosenLanguage(const OptionStore& options) {
   return LanguageChoice(options.GetOption("Language", "Options", ""));
 }
-
-}  // namespace
 
 // Whether Qt can show a window: a display, or a platform chosen by hand.
 bool HasDisplay() {
@@ -68,8 +69,10 @@ int RunDesktop(int& argc, char** argv, std::span<const std::string> args, std::o
 }
 
 int RunScreenshot(int& argc, char** argv, std::span<const std::string> args, std::ostream& err) {
+  if (args.size() > 2 && args[2] == "--dialog") return RunDialogScreenshot(argc, argv, args, err);
   if (args.size() < 2) {
-    err << "usage: tarnwick --screenshot OUT.png [FOLDER] [--size WxH]\n";
+    err << "usage: tarnwick --screenshot OUT.png [FOLDER] [--size WxH]\n"
+           "       tarnwick --screenshot OUT.png --dialog NAME [FILE] [--size WxH]\n";
     return 2;
   }
   const QString out = Q(args[1]);

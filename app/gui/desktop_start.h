@@ -4,7 +4,20 @@
 #include <span>
 #include <string>
 
+#include "persist/option_store.h"
+#include "shell/message_table.h"
+
 namespace tarnwick::gui {
+
+class MainWindow;
+
+// Start-up of the window with `line` as the command line. False when start-up
+// ended the process (the reason on `err`).
+bool StartWindow(MainWindow& window, const std::string& line, std::ostream& err);
+
+// The language the options name, read once at start: a switch in the
+// options applies from the next start.
+Language ChosenLanguage(const OptionStore& options);
 
 // `tarnwick`, `tarnwick FOLDER`, `tarnwick SETTINGS.twr`: the window through
 // the start-up sequence, then the event loop. Returns the exit status.
