@@ -6,14 +6,13 @@
 #include <QTableView>
 #include <chrono>
 
+#include "dialog_screenshot.h"
 #include "main_window.h"
 #include "persist/option_store.h"
 #include "qt_text.h"
 #include "startup/startup.h"
 
 namespace tarnwick::gui {
-namespace {
-
 // Start-up of the window with `arguments` as the command line. False when
 // start-up ended the process.
 bool StartWindow(MainWindow& window, std::vector<std::string> arguments, std::ostream& err) {
@@ -33,7 +32,7 @@ Language ChosenLanguage(const OptionStore& options) {
   return LanguageChoice(options.GetOption("Language", "Options", ""));
 }
 
-}  // namespace
+namespace {
 
 // Whether Qt can show a window: a display, or a platform chosen by hand.
 bool HasDisplay() {
@@ -41,6 +40,8 @@ bool HasDisplay() {
          !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ||
          !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
 }
+
+}  // namespace
 
 int RunDesktop(int& argc, char** argv, std::span<const std::string> args, std::ostream& err) {
   if (!HasDisplay()) {
@@ -59,8 +60,10 @@ int RunDesktop(int& argc, char** argv, std::span<const std::string> args, std::o
 }
 
 int RunScreenshot(int& argc, char** argv, std::span<const std::string> args, std::ostream& err) {
+  if (args.size() > 2 && args[2] == "--dialog") return RunDialogScreenshot(argc, argv, args, err);
   if (args.size() < 2) {
-    err << "usage: tarnwick --screenshot OUT.png [FOLDER] [--size WxH]\n";
+    err << "usage: tarnwick --screenshot OUT.png [FOLDER] [--size WxH]\n"
+           "       tarnwick --screenshot OUT.png --dialog NAME [FILE] [--size WxH]\n";
     return 2;
   }
   const QString out = Q(args[1]);

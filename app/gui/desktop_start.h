@@ -3,8 +3,22 @@
 #include <ostream>
 #include <span>
 #include <string>
+#include <vector>
+
+#include "persist/option_store.h"
+#include "shell/message_table.h"
 
 namespace tarnwick::gui {
+
+class MainWindow;
+
+// Start-up of the window with `arguments` as the command line. False when
+// start-up ended the process (the reason on `err`).
+bool StartWindow(MainWindow& window, std::vector<std::string> arguments, std::ostream& err);
+
+// The language the options name, read once at start: a switch in the
+// options applies from the next start.
+Language ChosenLanguage(const OptionStore& options);
 
 // `tarnwick`, `tarnwick FOLDER`, `tarnwick SETTINGS.twr`: the window through
 // the start-up sequence, then the event loop. Returns the exit status.

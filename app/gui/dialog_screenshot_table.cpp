@@ -1,0 +1,94 @@
+// The dialogues `tarnwick --screenshot OUT.png --dialog NAME FILE` can draw:
+// one line each, in the order the usage lists them.
+#include <filesystem>
+#include <map>
+
+#include "dialog_screenshot.h"
+#include "main_window.h"
+#include "options_dialog.h"
+#include "pattern_picker_dialog.h"
+#include "run_dialogs.h"
+#include "save_settings_dialog.h"
+#include "sort_order_dialog.h"
+#include "test_results_dialog.h"
+
+namespace tarnwick::gui {
+namespace {
+
+// The name of FILE, or a sample name when no file was given.
+std::string FileNameOr(const DialogShotContext& context, std::string_view fallback) {
+  if (context.file.empty()) return std::string(fallback);
+  return std::filesystem::path(context.file).filename().string();
+}
+
+std::string FolderOf(const DialogShotContext& context) {
+  if (context.file.empty()) return std::filesystem::current_path().string();
+  return std::filesystem::absolute(context.file).parent_path().string();
+}
+
+std::unique_ptr<QDialog> MakeOptions(DialogShotContext& c) {
+  const std::map<std::string, std::string> defaults = {
+      {"LogFilePath", c.window.env().state.DefaultLogFolder + "/Tarnwick.log"},
+      {"UndoFilePath", c.window.env().state.DefaultUndoFolder}};
+  return std::make_unique<OptionsDialog>(c.options, c.messages, c.window.interaction(), defaults,
+                                         &c.window);
+}
+
+std::unique_ptr<QDialog> MakeActionOrder(DialogShotContext& c) {
+  return std::make_unique<SortOrderDialog>(c.options, c.messages, c.window.interaction(),
+                                           &c.window);
+}
+
+std::unique_ptr<QDialog> MakePlaceholderPicker(DialogShotContext& c) {
+  return std::make_unique<PatternPickerDialog>(c.messages, std::string(), 0, &c.window);
+}
+
+std::unique_ptr<QDialog> MakeStartRenaming(DialogShotContext& c) {
+  return std::make_unique<StartRenamingDialog>(c.messages, &c.window);
+}
+
+std::unique_ptr<QDialog> MakeFileExists(DialogShotContext& c) {
+  FileExistsRequest request;
+  request.original_name = FileNameOr(c, "holiday.jpg");
+  request.proposed_name = "IMG_" + request.original_name;
+  request.folder = FolderOf(c);
+  return std::make_unique<FileExistsDialog>(request, c.messages, c.window.interaction(), &c.window);
+}
+
+std::unique_ptr<QDialog> MakeManualRename(DialogShotContext& c) {
+  ManualRenameRequest request;
+  request.original_name = FileNameOr(c, "holiday.jpg");
+  request.file_name = "IMG_" + request.original_name;
+  return std::make_unique<ManualRenameDialog>(request, c.messages, c.window.interaction(),
+                                              &c.window);
+}
+
+std::unique_ptr<QDialog> MakeSaveSettings(DialogShotContext& c) {
+  SaveSettingsRequest request;
+  request.preset_path = c.file;
+  return std::make_unique<SaveSettingsDialog>(request, c.messages, &c.window);
+}
+
+std::unique_ptr<QDialog> MakeTestResults(DialogShotContext& c) {
+  const std::string name = FileNameOr(c, "holiday.jpg");
+  const std::vector<TestResultRow> rows = {{name, "IMG_" + name, FolderOf(c)}};
+  return std::make_unique<TestResultsDialog>(rows, c.messages, c.window.interaction(), &c.window);
+}
+
+}  // namespace
+
+std::span<const DialogShot> DialogShots() {
+  static const DialogShot kShots[] = {
+      {"options", "the options", MakeOptions},
+      {"action-order", "the order of the renaming actions", MakeActionOrder},
+      {"placeholder-picker", "the placeholder list", MakePlaceholderPicker},
+      {"start-renaming", "the question before a run", MakeStartRenaming},
+      {"file-exists", "a new name that is taken (FILE: the row)", MakeFileExists},
+      {"manual-rename", "a name edited by hand during a run (FILE: the row)", MakeManualRename},
+      {"save-settings", "saving a settings file (FILE: the preset path)", MakeSaveSettings},
+      {"test-results", "the result list of a test run (FILE: the row)", MakeTestResults},
+  };
+  return kShots;
+}
+
+}  // namespace tarnwick::gui
