@@ -211,6 +211,20 @@ TEST_F(MainWindowTest, AStartWithASettingsFileShowsItsControls) {
   EXPECT_EQ(options.GetOption("SetFileAssoc", "Options", "0"), "1");
 }
 
+TEST_F(MainWindowTest, AStartWithAFolderThatIsGoneOpensAUsableWindowOnTheHomeFolder) {
+  MainWindow started(options, MessageTable::Get(Language::kEnglish), &interaction);
+  interaction.SetDefault(QuestionKind::kMessageBox, Answer::kOk);
+  StartupInput input = MachineStartupInput({(dir.path() / "no/such/folder").string()});
+  input.default_root = dir.str();  // stands in for the home folder
+  const StartupResult result = RunStartup(started.env(), started.settings(), started.host(), input);
+  ASSERT_EQ(result.outcome, StartupResult::Outcome::kReady) << result.error;
+  EXPECT_EQ(result.error_number, 76);
+  EXPECT_EQ(started.app().CurrentPath, dir.str());
+  EXPECT_EQ(started.list().size(), 3u);
+  EXPECT_TRUE(started.findChild<QPushButton*>("cmdStart")->isEnabled());
+  EXPECT_TRUE(started.findChild<QCheckBox*>("chkPrefix")->isEnabled());
+}
+
 TEST_F(MainWindowTest, TheOrderLabelNamesTheTickedActionsInTheirOrder) {
   QLabel* label = Control<QLabel>("lblActionOrder");
   window->activateWindow();

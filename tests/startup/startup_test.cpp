@@ -172,6 +172,7 @@ TEST_F(StartupTest, SettingsFileWithSwitchRunsTheBatchAndSkipsTheRest) {
 }
 
 TEST_F(StartupTest, AFolderThatIsGoneFallsBackToTheRootAndGoesOnWithAFilledList) {
+  options_.SaveOption("LogOnlyRename", "Options", "0");
   const StartupResult result = Start({"/no/such/folder"});
   EXPECT_EQ(result.outcome, StartupResult::Outcome::kReady);
   EXPECT_EQ(app_.CurrentPath, input_.default_root);
@@ -180,7 +181,7 @@ TEST_F(StartupTest, AFolderThatIsGoneFallsBackToTheRootAndGoesOnWithAFilledList)
                                              "associate", "show", "watch"};
   EXPECT_EQ(host_.calls, expected);
   EXPECT_EQ(Option("ResetPath"), "0");
-  EXPECT_NE(ReadWholeFile(dir_.path() / "data/Oakhollow/Tarnwick/Log Files/Tarnwick.log")
+  EXPECT_NE(testing::ReadWholeFile(dir_.path() / "data/Oakhollow/Tarnwick/Log Files/Tarnwick.log")
                 .find("!76: Path not found"),
             std::string::npos)
       << "the handler logs the error";
