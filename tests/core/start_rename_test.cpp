@@ -8,6 +8,7 @@
 
 #include <fstream>
 
+#include "core/journal.h"
 #include "run_test_fixture.h"
 
 namespace tarnwick::testing {
@@ -357,6 +358,30 @@ TEST_F(RunTest, KeepOldFiledateGivesTheRenamedFileTheDateItHadBefore) {
   EXPECT_EQ(info.st_mtime, 1000000000);
 }
 
+
+TEST_F(RunTest, AnUndoFolderThatCannotTakeTheJournalOnlyAsksAndTheRunGoesOn) {
+  AddFile("a.txt");
+  AddFile("b.txt");
+  SetOption("UndoFilePath", (dir.path() / "missing").string());
+  Prefix("p_");
+  interaction.SetDefault(QuestionKind::kMessageBox, Answer::kNo);  // keep undo on
+  const RenameRunResult result = Run();
+  EXPECT_EQ(result.done, 2);
+  EXPECT_EQ(result.failed, 0);
+  EXPECT_EQ(Names(), (std::vector<std::string>{"p_a.txt", "p_b.txt"}));
+  EXPECT_TRUE(WasAsked("Logfile"));
+  EXPECT_NE(Option("WriteUndoList"), "0");
+  // The journal lived in the program's own undo folder, and a clean end removed it.
+  EXPECT_TRUE(JournalsInFolder(dir.path() / "undo").empty());
+
+  // Yes switches undo off, and the run goes on as well.
+  list.Clear();
+  Prefix("q_");
+  interaction.SetDefault(QuestionKind::kMessageBox, Answer::kYes);
+  EXPECT_EQ(Run().done, 2);
+  EXPECT_EQ(Option("WriteUndoList"), "0");
+  EXPECT_EQ(Names(), (std::vector<std::string>{"q_p_a.txt", "q_p_b.txt"}));
+}
 
 // A new name with nothing in front of its extension is refused in every mode;
 // the file keeps its name, and it counts as failed.
