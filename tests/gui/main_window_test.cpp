@@ -17,6 +17,9 @@
 #include <QTest>
 #include <QTimer>
 #include <QTreeView>
+#include <sys/stat.h>
+
+#include <ctime>
 #include <filesystem>
 
 #include "core/action_order.h"
@@ -223,6 +226,34 @@ TEST_F(MainWindowTest, AStartWithAFolderThatIsGoneOpensAUsableWindowOnTheHomeFol
   EXPECT_EQ(started.list().size(), 3u);
   EXPECT_TRUE(started.findChild<QPushButton*>("cmdStart")->isEnabled());
   EXPECT_TRUE(started.findChild<QCheckBox*>("chkPrefix")->isEnabled());
+}
+
+TEST_F(MainWindowTest, ARunFromTheWindowGivesAJpegItsExifDateWhenTheOptionSaysSo) {
+  std::filesystem::copy_file(std::filesystem::path(TW_FIXTURE_DIR) / "exif/full_intel.jpg",
+                             dir.path() / "photo.jpg");
+  options.SaveOption("UseEXIFDate", "Options", "1");
+  window->ShowFolder(QString::fromStdString(dir.str()));
+  Tick("chkPrefix");
+  Type("txtPrefix", "p_");
+  window->SelectAll();
+  interaction.Then(StartRenamingChoice::kRename);
+  interaction.SetDefault(QuestionKind::kMessageBox, Answer::kOk);
+  QTest::mouseClick(window->start_button(), Qt::LeftButton);
+  ASSERT_TRUE(Exists("p_photo.jpg"));
+  // DateTimeOriginal of the picture is 2004:04:12 11:38:00, local time.
+  struct stat info {};
+  ASSERT_EQ(::stat((dir.path() / "p_photo.jpg").c_str(), &info), 0);
+  std::tm taken{};
+  taken.tm_year = 2004 - 1900;
+  taken.tm_mon = 3;
+  taken.tm_mday = 12;
+  taken.tm_hour = 11;
+  taken.tm_min = 38;
+  taken.tm_isdst = -1;
+  EXPECT_EQ(info.st_mtime, std::mktime(&taken));
+  // A text file is left as it was.
+  ASSERT_EQ(::stat((dir.path() / "p_a.txt").c_str(), &info), 0);
+  EXPECT_GT(info.st_mtime, std::mktime(&taken));
 }
 
 TEST_F(MainWindowTest, TheOrderLabelNamesTheTickedActionsInTheirOrder) {
