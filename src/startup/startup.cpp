@@ -205,6 +205,7 @@ void Sequence::OpenSplash() {
 }
 
 void Sequence::MakeFolders() {
+  env_.state.ProgramFolder = input_.program_folder;
   CreateDefaultPaths(env_, log_, input_.data_base_folder, input_.data_fallback_folder);
   result_.journals = CompleteInterruptedRunsAtStart(env_.options, env_.state);
   for (const JournalRecovery& recovery : result_.journals) {

@@ -27,6 +27,8 @@ struct StartupInput {
   std::string system_short_date;
   // The folder shown when none is known (the home folder).
   std::string default_root;
+  // The folder of the files that come with the program (the finish sound).
+  std::string program_folder;
 };
 
 // StartupInput with the machine's own facts.

@@ -9,6 +9,7 @@
 #include "persist/default_paths.h"
 #include "persist/option_store.h"
 #include "platform/system_info.h"
+#include "platform/user_folders.h"
 #include "startup/startup.h"
 
 namespace tarnwick {
@@ -69,6 +70,7 @@ StartupInput MachineStartupInput(std::vector<std::string> arguments) {
   input.data_fallback_folder = UserDataFallbackFolder();
   input.system_short_date = SystemShortDate();
   input.default_root = DefaultRootFolder().string();
+  input.program_folder = ProgramFilesFolder().string();
   return input;
 }
 

@@ -20,7 +20,9 @@
 #include <sys/stat.h>
 
 #include <ctime>
+#include <cstdlib>
 #include <filesystem>
+#include <fstream>
 
 #include "core/action_order.h"
 #include "core/settings_file.h"
@@ -254,6 +256,32 @@ TEST_F(MainWindowTest, ARunFromTheWindowGivesAJpegItsExifDateWhenTheOptionSaysSo
   // A text file is left as it was.
   ASSERT_EQ(::stat((dir.path() / "p_a.txt").c_str(), &info), 0);
   EXPECT_GT(info.st_mtime, std::mktime(&taken));
+}
+
+TEST_F(MainWindowTest, TheFinishSoundByDefaultIsTheOneBuiltBesideTheProgram) {
+  const char* binary_dir = std::getenv("TW_BINARY_DIR");
+  ASSERT_NE(binary_dir, nullptr);
+  MainWindow started(options, MessageTable::Get(Language::kEnglish), &interaction);
+  interaction.SetDefault(QuestionKind::kMessageBox, Answer::kOk);
+  StartupInput input = MachineStartupInput({dir.str()});
+  // The window's own executable, not this test's, sits beside the sound.
+  input.program_folder = (std::filesystem::path(binary_dir) / "app/gui").string();
+  ASSERT_EQ(RunStartup(started.env(), started.settings(), started.host(), input).outcome,
+            StartupResult::Outcome::kReady);
+  options.SaveOption("ReadySound", "Options", "1");
+  started.settings().chkPrefix = 1;
+  started.settings().txtPrefix = "p_";
+  started.SelectAll();
+  interaction.Then(StartRenamingChoice::kRename);
+  started.StartRenaming();
+  ASSERT_EQ(interaction.waves_played().size(), 1u);
+  const std::string sound = interaction.waves_played()[0];
+  EXPECT_EQ(sound, input.program_folder + "/Media/notify.wav");
+  std::ifstream file(sound, std::ios::binary);
+  std::string head(12, '\0');
+  ASSERT_TRUE(file.read(head.data(), 12)) << sound;
+  EXPECT_EQ(head.substr(0, 4), "RIFF");
+  EXPECT_EQ(head.substr(8, 4), "WAVE");
 }
 
 TEST_F(MainWindowTest, TheOrderLabelNamesTheTickedActionsInTheirOrder) {

@@ -64,6 +64,7 @@ class StartupTest : public ::testing::Test {
     input_.data_fallback_folder = (dir_.path() / "home").string();
     input_.system_short_date = "m/d/yyyy";
     input_.default_root = (dir_.path() / "home").string();
+    input_.program_folder = "/opt/tarnwick-test/share/tarnwick";
   }
   StartupResult Start(std::vector<std::string> arguments = {}) {
     input_.arguments = std::move(arguments);
@@ -106,6 +107,7 @@ TEST_F(StartupTest, PlainStartRunsTheStepsInOrder) {
   EXPECT_EQ(Option("ResetPath"), "0");
   EXPECT_FALSE(app_.LoadingFlag);
   EXPECT_TRUE(std::filesystem::exists(dir_.path() / "data/Oakhollow/Tarnwick/Undo Files"));
+  EXPECT_EQ(state_.ProgramFolder, input_.program_folder) << "where the finish sound is found";
   EXPECT_TRUE(ask_.asked().empty());
 }
 
