@@ -13,25 +13,12 @@
 #include "startup/startup.h"
 
 namespace tarnwick::gui {
-namespace {
-
-std::string JoinArguments(std::span<const std::string> args) {
-  std::string line;
-  for (const std::string& arg : args) {
-    if (!line.empty()) line += ' ';
-    line += arg;
-  }
-  return line;
-}
-
-}  // namespace
-
-// Start-up of the window with `line` as the command line. False when start-up
-// ended the process.
-bool StartWindow(MainWindow& window, const std::string& line, std::ostream& err) {
+// Start-up of the window with `arguments` as the command line. False when
+// start-up ended the process.
+bool StartWindow(MainWindow& window, std::vector<std::string> arguments, std::ostream& err) {
   window.app().LoadingFlag = true;
-  const StartupResult result =
-      RunStartup(window.env(), window.settings(), window.host(), MachineStartupInput(line));
+  const StartupResult result = RunStartup(window.env(), window.settings(), window.host(),
+                                          MachineStartupInput(std::move(arguments)));
   window.app().LoadingFlag = false;
   window.ShowSettings();
   if (result.outcome == StartupResult::Outcome::kReady) return true;
@@ -45,12 +32,16 @@ Language ChosenLanguage(const OptionStore& options) {
   return LanguageChoice(options.GetOption("Language", "Options", ""));
 }
 
+namespace {
+
 // Whether Qt can show a window: a display, or a platform chosen by hand.
 bool HasDisplay() {
   return !qEnvironmentVariableIsEmpty("DISPLAY") ||
          !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ||
          !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
 }
+
+}  // namespace
 
 int RunDesktop(int& argc, char** argv, std::span<const std::string> args, std::ostream& err) {
   if (!HasDisplay()) {
@@ -63,7 +54,7 @@ int RunDesktop(int& argc, char** argv, std::span<const std::string> args, std::o
   QApplication::setOrganizationName("Oakhollow");
   OptionStore options = OptionStore::ForCurrentUser();
   MainWindow window(options, MessageTable::Get(ChosenLanguage(options)));
-  if (!StartWindow(window, JoinArguments(args), err)) return 2;
+  if (!StartWindow(window, {args.begin(), args.end()}, err)) return 2;
   window.show();
   return QApplication::exec();
 }
@@ -76,14 +67,14 @@ int RunScreenshot(int& argc, char** argv, std::span<const std::string> args, std
     return 2;
   }
   const QString out = Q(args[1]);
-  std::string folder;
+  std::vector<std::string> folder;
   QSize size(1200, 800);
   for (std::size_t i = 2; i < args.size(); ++i) {
     if (args[i] == "--size" && i + 1 < args.size()) {
       const QStringList parts = Q(args[++i]).split('x');
       if (parts.size() == 2) size = QSize(parts[0].toInt(), parts[1].toInt());
     } else {
-      folder = args[i];
+      folder = {args[i]};
     }
   }
   qputenv("QT_QPA_PLATFORM", "offscreen");
