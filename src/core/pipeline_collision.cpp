@@ -59,7 +59,9 @@ std::string DecideCollision(const PipelineEnv& env, std::string_view old_name,
 
 bool PassOpenFileTest(const PipelineEnv& env, std::string_view folder, std::string_view old_name) {
   const std::string path = JoinPath(folder, old_name);
-  if (!IsFileInUse(path)) return true;
+  const bool in_use =
+      env.open_files != nullptr ? env.open_files->IsFileInUse(path) : IsFileInUse(path);
+  if (!in_use) return true;
   env.app.FileLockSeen = true;
   if (env.settings.optCopyRename == kModeCopy) return true;
   MessageBoxRequest box;
