@@ -44,8 +44,11 @@ class RunJournal {
   // The record before a move or a copy; a step whose record could not be
   // written must not be done.
   FileStatus RecordStep(const JournalStep& step);
-  // The file's undo line is settled.
-  FileStatus RecordDone();
+  // The file's undo line is settled. A deferred record goes out with the
+  // next record, in the same write: a run killed before that leaves the
+  // file's steps open, and recovery finds its undo line at the end of the
+  // batch already. A file whose step failed is settled at once.
+  FileStatus RecordDone(bool deferred = false);
   // The older runs are about to be put behind a batch of `batch_size` bytes.
   FileStatus RecordFinish(std::uint64_t batch_size);
 
@@ -59,6 +62,7 @@ class RunJournal {
   std::filesystem::path path_;
   int fd_ = -1;
   int unsynced_ = 0;
+  bool done_pending_ = false;
   std::chrono::steady_clock::time_point last_sync_ = std::chrono::steady_clock::now();
 };
 

@@ -35,8 +35,8 @@ std::string FreeTemporaryName(const std::string& folder) {
 
 }  // namespace
 
-void SettleSteps(RunContext& run) {
-  if (run.journal) run.journal->RecordDone();
+void SettleSteps(RunContext& run, bool deferred) {
+  if (run.journal) run.journal->RecordDone(deferred);
 }
 
 void RunMove(RunContext& run, const std::string& from, const std::string& to) {

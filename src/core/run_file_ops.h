@@ -24,6 +24,7 @@ void RunMoveThroughTemporaryName(RunContext& run, const std::string& from, const
 void RunCopy(RunContext& run, const std::string& from, const std::string& to);
 
 // The file's undo line is written (or needs none): its steps are settled.
-void SettleSteps(RunContext& run);
+// `deferred`: the record may wait for the next one (see RunJournal).
+void SettleSteps(RunContext& run, bool deferred = false);
 
 }  // namespace tarnwick

@@ -176,15 +176,35 @@ void RunFile(RunContext& run, FileStep& file, bool frozen) {
   // the untouched file when the batch runs, so it becomes a comment.
   run.undo.WriteUndoEntry(file.old_path, file.new_path,
                           skipped && run.command == "del" ? "rem" : run.command);
-  SettleSteps(run);
+  // The batch now ends with the file's line, so its record may wait.
+  SettleSteps(run, true);
   CountFile(run, file, skipped);
 }
+
+// Log and batch stay open while the files are done: an entry costs one write.
+class HeldLogAndBatch {
+ public:
+  explicit HeldLogAndBatch(RunContext& run) : run_(run) {
+    run_.log.HoldFileOpen(true);
+    run_.undo.HoldFileOpen(true);
+  }
+  ~HeldLogAndBatch() {
+    run_.log.HoldFileOpen(false);
+    run_.undo.HoldFileOpen(false);
+  }
+  HeldLogAndBatch(const HeldLogAndBatch&) = delete;
+  HeldLogAndBatch& operator=(const HeldLogAndBatch&) = delete;
+
+ private:
+  RunContext& run_;
+};
 
 }  // namespace
 
 void RunFiles(RunContext& run) {
   AppState& app = run.env.app;
   Interaction& ui = run.env.interaction;
+  const HeldLogAndBatch held(run);
   for (std::size_t i = 0; i < run.rows.size(); ++i) {
     // The options are read anew for each file, and seen in one state while
     // it lasts.
