@@ -36,6 +36,11 @@ struct PipelineEnv {
   // The open-file test of a run over many files; absent: each file is
   // probed on its own.
   OpenFileScan* open_files = nullptr;
+  // A run that renames or copies: a new name is not checked against the
+  // folder beforehand, since the move or copy that never replaces says
+  // itself that the name is taken; the run then asks what DecideCollision
+  // would have asked (ProcessFileResult::name_unchecked).
+  bool defer_taken_check = false;
 };
 
 }  // namespace tarnwick
