@@ -117,9 +117,8 @@ FileStatus RunJournal::Write(const std::string& record) {
   done_pending_ = false;
   if (error != 0) return FromErrno(error);
   const auto now = std::chrono::steady_clock::now();
-  if (++unsynced_ >= kSyncEveryRecords || now - last_sync_ >= kSyncInterval) {
+  if (now - last_sync_ >= kSyncInterval) {
     ::fdatasync(fd_);
-    unsynced_ = 0;
     last_sync_ = now;
   }
   return FileStatus::Success();

@@ -18,14 +18,17 @@ namespace tarnwick {
 // run that was killed, and journal_recovery.h completes the batch from it.
 //
 // Each record goes out with one write before the step it announces, so a
-// killed process never leaves a step without its record. Records are forced
-// to the disk when the journal starts and then at least every
-// `kSyncEveryRecords` records or `kSyncInterval`, whichever comes first; a
-// power loss can thus lose the records of the last moments only.
+// killed process never leaves a step without its record: the kernel has the
+// bytes once the write returns. Against a power cut the records are forced
+// to the disk when the journal starts, before the older runs are put behind
+// the batch, and otherwise at most every `kSyncInterval`, never once per
+// file. A power cut can thus lose the records of the last second, and with
+// them the batch lines recovery would add for the files of that second; the
+// file system commits those renames on its own schedule, so they may be
+// lost as well. Records older than that survive.
 class RunJournal {
  public:
-  static constexpr int kSyncEveryRecords = 1000;
-  static constexpr std::chrono::milliseconds kSyncInterval{500};
+  static constexpr std::chrono::milliseconds kSyncInterval{1000};
 
   // Starts the journal of a run that writes `batch_path`; `older_copy` is
   // the saved copy of the older runs (empty when there is none). The journal
@@ -61,7 +64,6 @@ class RunJournal {
 
   std::filesystem::path path_;
   int fd_ = -1;
-  int unsynced_ = 0;
   bool done_pending_ = false;
   std::chrono::steady_clock::time_point last_sync_ = std::chrono::steady_clock::now();
 };

@@ -17,11 +17,11 @@ struct OptionStore::Impl {
   // Brings the cached document up to date with the file on disk. One stat()
   // when nothing changed.
   void Refresh() const {
+    // Within one unit of work the file was checked already; a new unit
+    // checks it when the last check is older than kUnitCheckInterval.
+    if (units > 0 && loaded && !racy && checked_in_unit) return;
     const auto clock = std::chrono::steady_clock::now();
     if (units > 0 && loaded && !racy) {
-      // Within one unit of work the file was checked already; a new unit
-      // checks it when the last check is older than kUnitCheckInterval.
-      if (checked_in_unit) return;
       checked_in_unit = true;
       if (clock - last_check < kUnitCheckInterval) return;
     }
