@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that Tarnwick's build, tests and benchmarks need.
 # rename: the Perl rename tool, a peer of the rename run's benchmark.
+# strace: counts the system calls per file in scripts/bench-run.sh.
 # fonts-dejavu-core: a font for the window's screenshots on machines without one.
 # qt6-multimedia-dev: the desktop window plays the finish sound through Qt Multimedia.
 # Idempotent: when everything is present it only checks and returns.
@@ -12,7 +13,7 @@ packages=(
   libicu-dev libpcre2-dev libpugixml-dev libssl-dev uuid-dev
   libjpeg62-turbo-dev libpng-dev libtiff-dev libgif-dev
   python3
-  rename
+  rename strace
   qt6-base-dev qt6-multimedia-dev fonts-dejavu-core
 )
 

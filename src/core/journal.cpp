@@ -112,11 +112,13 @@ RunJournal::~RunJournal() {
 
 FileStatus RunJournal::Write(const std::string& record) {
   if (fd_ < 0) return FileStatus::Error(vb_error::kPathFileAccessError);
-  if (const int error = WriteAll(fd_, record)) return FromErrno(error);
+  const int error =
+      done_pending_ ? WriteAll(fd_, JournalDoneText() + record) : WriteAll(fd_, record);
+  done_pending_ = false;
+  if (error != 0) return FromErrno(error);
   const auto now = std::chrono::steady_clock::now();
-  if (++unsynced_ >= kSyncEveryRecords || now - last_sync_ >= kSyncInterval) {
+  if (now - last_sync_ >= kSyncInterval) {
     ::fdatasync(fd_);
-    unsynced_ = 0;
     last_sync_ = now;
   }
   return FileStatus::Success();
@@ -124,7 +126,12 @@ FileStatus RunJournal::Write(const std::string& record) {
 
 FileStatus RunJournal::RecordStep(const JournalStep& step) { return Write(JournalStepText(step)); }
 
-FileStatus RunJournal::RecordDone() { return Write(JournalDoneText()); }
+FileStatus RunJournal::RecordDone(bool deferred) {
+  if (!deferred) return Write(JournalDoneText());
+  // Two settled files without a step between them need one record.
+  done_pending_ = true;
+  return FileStatus::Success();
+}
 
 FileStatus RunJournal::RecordFinish(std::uint64_t batch_size) {
   const FileStatus status = Write(JournalFinishText(batch_size));

@@ -18,14 +18,17 @@ namespace tarnwick {
 // run that was killed, and journal_recovery.h completes the batch from it.
 //
 // Each record goes out with one write before the step it announces, so a
-// killed process never leaves a step without its record. Records are forced
-// to the disk when the journal starts and then at least every
-// `kSyncEveryRecords` records or `kSyncInterval`, whichever comes first; a
-// power loss can thus lose the records of the last moments only.
+// killed process never leaves a step without its record: the kernel has the
+// bytes once the write returns. Against a power cut the records are forced
+// to the disk when the journal starts, before the older runs are put behind
+// the batch, and otherwise at most every `kSyncInterval`, never once per
+// file. A power cut can thus lose the records of the last second, and with
+// them the batch lines recovery would add for the files of that second; the
+// file system commits those renames on its own schedule, so they may be
+// lost as well. Records older than that survive.
 class RunJournal {
  public:
-  static constexpr int kSyncEveryRecords = 1000;
-  static constexpr std::chrono::milliseconds kSyncInterval{500};
+  static constexpr std::chrono::milliseconds kSyncInterval{1000};
 
   // Starts the journal of a run that writes `batch_path`; `older_copy` is
   // the saved copy of the older runs (empty when there is none). The journal
@@ -44,8 +47,11 @@ class RunJournal {
   // The record before a move or a copy; a step whose record could not be
   // written must not be done.
   FileStatus RecordStep(const JournalStep& step);
-  // The file's undo line is settled.
-  FileStatus RecordDone();
+  // The file's undo line is settled. A deferred record goes out with the
+  // next record, in the same write: a run killed before that leaves the
+  // file's steps open, and recovery finds its undo line at the end of the
+  // batch already. A file whose step failed is settled at once.
+  FileStatus RecordDone(bool deferred = false);
   // The older runs are about to be put behind a batch of `batch_size` bytes.
   FileStatus RecordFinish(std::uint64_t batch_size);
 
@@ -58,7 +64,7 @@ class RunJournal {
 
   std::filesystem::path path_;
   int fd_ = -1;
-  int unsynced_ = 0;
+  bool done_pending_ = false;
   std::chrono::steady_clock::time_point last_sync_ = std::chrono::steady_clock::now();
 };
 

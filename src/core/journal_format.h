@@ -42,7 +42,8 @@ struct JournalContent {
   // The steps of the file whose undo line was not yet settled when the
   // journal ended; empty when every file was settled.
   std::vector<JournalStep> open_steps;
-  // How many files were settled.
+  // How many "done" records the journal holds (files that made no step
+  // may share one).
   std::int64_t settled = 0;
   // Set when the run had started to put the older runs behind its lines.
   std::optional<std::uint64_t> finish_size;

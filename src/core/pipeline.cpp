@@ -55,7 +55,7 @@ void ApplyMp3Guard(const PipelineEnv& env, std::string& name, std::size_t row,
 }
 
 std::string RunPipeline(const PipelineEnv& env, std::string& name, std::size_t row,
-                        std::string_view folder) {
+                        std::string_view folder, bool& name_unchecked) {
   const std::string old_name = name;
   // The file keeps its name and does not use up a number.
   if (StopForShortName(env, name)) return name;
@@ -68,11 +68,16 @@ std::string RunPipeline(const PipelineEnv& env, std::string& name, std::size_t r
 
   const bool test_mode = env.settings.optCopyRename == kModeTest;
   std::string result = name;
-  if (!test_mode) {
+  // A deferred check leaves a taken name to the run's move; a file held
+  // open is decided here all the same, so its questions keep their order.
+  name_unchecked = !test_mode && env.defer_taken_check && !FileHeldOpen(env, folder, old_name);
+  if (!test_mode && !name_unchecked) {
     result = DecideCollision(env, old_name, name, folder, expander.row_name());
     CheckNameForFileSystem(result);
   }
-  if (!result.empty() && !PassOpenFileTest(env, folder, old_name)) result.clear();
+  if (!name_unchecked && !result.empty() && !PassOpenFileTest(env, folder, old_name)) {
+    result.clear();
+  }
   if (test_mode) result = name;
   NextNumberStep(env.app, env.settings);
   // The random numbers of the next file come from further on in the pool.
@@ -98,7 +103,9 @@ bool CheckForValidFields(const RenameSettings& s, std::string_view text) {
 ProcessFileResult ProcessFile(const PipelineEnv& env, std::string& name, std::size_t row,
                               std::string_view folder) {
   try {
-    return {RunPipeline(env, name, row, folder), std::nullopt};
+    bool name_unchecked = false;
+    std::string result = RunPipeline(env, name, row, folder, name_unchecked);
+    return {std::move(result), std::nullopt, name_unchecked};
   } catch (const VbError& error) {
     return {{}, error};
   } catch (const std::bad_alloc&) {

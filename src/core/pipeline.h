@@ -19,6 +19,10 @@ struct ProcessFileResult {
   // take, "." or ".."). The pipeline stopped at that step; the caller's error
   // handler reports it. `name` is then empty.
   std::optional<VbError> error;
+  // With `PipelineEnv::defer_taken_check`: the name was not checked against
+  // the folder; whoever takes it must treat a taken name as DecideCollision
+  // does.
+  bool name_unchecked = false;
 };
 
 // The whole name pipeline for one file: the row `row` of `env.list`, whose

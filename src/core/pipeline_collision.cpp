@@ -57,9 +57,20 @@ std::string DecideCollision(const PipelineEnv& env, std::string_view old_name,
   return AskFileExists(env, name, folder, row_name);
 }
 
-bool PassOpenFileTest(const PipelineEnv& env, std::string_view folder, std::string_view old_name) {
+std::string DecideTakenName(const PipelineEnv& env, const std::string& name,
+                            std::string_view folder, std::string_view row_name) {
+  if (env.options.GetOption(kSkipExisting, "Options", "0") != "0") return {};
+  return AskFileExists(env, name, folder, row_name);
+}
+
+bool FileHeldOpen(const PipelineEnv& env, std::string_view folder, std::string_view old_name) {
   const std::string path = JoinPath(folder, old_name);
-  if (!IsFileInUse(path)) return true;
+  return env.open_files != nullptr ? env.open_files->IsFileInUse(path) : IsFileInUse(path);
+}
+
+bool PassOpenFileTest(const PipelineEnv& env, std::string_view folder, std::string_view old_name) {
+  if (!FileHeldOpen(env, folder, old_name)) return true;
+  const std::string path = JoinPath(folder, old_name);
   env.app.FileLockSeen = true;
   if (env.settings.optCopyRename == kModeCopy) return true;
   MessageBoxRequest box;

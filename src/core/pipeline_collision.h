@@ -17,6 +17,15 @@ std::string DecideCollision(const PipelineEnv& env, std::string_view old_name,
                             const std::string& name, std::string_view folder,
                             std::string_view row_name);
 
+// The question about a name found taken (a regular file of that name is in
+// `folder`): skipped without a question while `SkipExistingFiles` is not
+// "0", otherwise the file-exists dialogue, as in DecideCollision.
+std::string DecideTakenName(const PipelineEnv& env, const std::string& name,
+                            std::string_view folder, std::string_view row_name);
+
+// Whether another program holds the file `old_name` in `folder` open.
+bool FileHeldOpen(const PipelineEnv& env, std::string_view folder, std::string_view old_name);
+
 // The open-file test of the file `old_name` in `folder`. A file another
 // program holds open sets `FileLockSeen`; in rename and test mode the box
 // "File is open" is shown, whose Cancel sets `CancelRun`, and the file is

@@ -13,6 +13,7 @@ class ExpansionLog;
 class FileList;
 class Interaction;
 class MessageTable;
+class OpenFileScan;
 class OptionStore;
 
 // What the name pipeline works with, all owned by the front end and lent for
@@ -32,6 +33,14 @@ struct PipelineEnv {
   // dynamic number tokens read it); counting per file would cost a walk of the
   // whole list for every file.
   std::size_t selected_count = 0;
+  // The open-file test of a run over many files; absent: each file is
+  // probed on its own.
+  OpenFileScan* open_files = nullptr;
+  // A run that renames or copies: a new name is not checked against the
+  // folder beforehand, since the move or copy that never replaces says
+  // itself that the name is taken; the run then asks what DecideCollision
+  // would have asked (ProcessFileResult::name_unchecked).
+  bool defer_taken_check = false;
 };
 
 }  // namespace tarnwick

@@ -13,6 +13,7 @@
 #include "persist/log_file.h"
 #include "persist/log_undo_env.h"
 #include "persist/undo_batch.h"
+#include "platform/file_in_use.h"
 #include "shell/interaction_dialogs.h"
 
 namespace tarnwick {
@@ -47,6 +48,8 @@ struct RunContext {
   std::size_t selected_count = 0;
   // The journal of the steps; absent in a test run and without undo.
   std::unique_ptr<RunJournal> journal;
+  // The open-file test, one look at the open files for many files.
+  OpenFileScan open_files;
   // The result list of a test run.
   std::vector<TestResultRow> test_rows;
   // The undo command of the last file, which a skipped file's entry takes

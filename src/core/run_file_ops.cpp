@@ -33,10 +33,18 @@ std::string FreeTemporaryName(const std::string& folder) {
   return name.value().string();
 }
 
+// A step that failed because its target is a regular file that was there
+// already: its record is settled at once, so the next try starts afresh.
+bool TargetWasTaken(RunContext& run, const FileStatus& status, const std::string& to) {
+  if (status.number != vb_error::kFileAlreadyExists || !FileExists(to)) return false;
+  SettleSteps(run);
+  return true;
+}
+
 }  // namespace
 
-void SettleSteps(RunContext& run) {
-  if (run.journal) run.journal->RecordDone();
+void SettleSteps(RunContext& run, bool deferred) {
+  if (run.journal) run.journal->RecordDone(deferred);
 }
 
 void RunMove(RunContext& run, const std::string& from, const std::string& to) {
@@ -61,6 +69,22 @@ void RunMoveThroughTemporaryName(RunContext& run, const std::string& from, const
   // gets the line that brings it back from the temporary name.
   if (run.journal) run.journal->RecordStep({JournalStepKind::kMove, temporary, from});
   if (!MoveFileNoReplace(temporary, from).ok()) run.undo.WriteUndoEntry(from, temporary, "move");
+  Fail(run, status);
+}
+
+bool RunMoveUnlessTaken(RunContext& run, const std::string& from, const std::string& to) {
+  Announce(run, JournalStepKind::kMove, from, to);
+  const FileStatus status = MoveFileNoReplace(from, to);
+  if (status.ok()) return true;
+  if (TargetWasTaken(run, status, to)) return false;
+  Fail(run, status);
+}
+
+bool RunCopyUnlessTaken(RunContext& run, const std::string& from, const std::string& to) {
+  Announce(run, JournalStepKind::kCopy, from, to);
+  const FileStatus status = CopyFile(from, to, false);
+  if (status.ok()) return true;
+  if (TargetWasTaken(run, status, to)) return false;
   Fail(run, status);
 }
 

@@ -23,7 +23,15 @@ void RunMoveThroughTemporaryName(RunContext& run, const std::string& from, const
 // Copies `from` to `to`.
 void RunCopy(RunContext& run, const std::string& from, const std::string& to);
 
+// The move or copy to a name that was not checked beforehand. False, with
+// nothing done, when a regular file of that name is there already (the
+// caller asks what to do, as for a name found taken before); any other
+// failure goes to the run's handler as with RunMove and RunCopy.
+bool RunMoveUnlessTaken(RunContext& run, const std::string& from, const std::string& to);
+bool RunCopyUnlessTaken(RunContext& run, const std::string& from, const std::string& to);
+
 // The file's undo line is written (or needs none): its steps are settled.
-void SettleSteps(RunContext& run);
+// `deferred`: the record may wait for the next one (see RunJournal).
+void SettleSteps(RunContext& run, bool deferred = false);
 
 }  // namespace tarnwick

@@ -21,8 +21,9 @@ std::string RunContext::Text(std::string_view key) const {
 }
 
 PipelineEnv RunContext::Pipeline() {
-  return PipelineEnv{env.app,      env.settings, env.list,  env.options, env.interaction,
-                     env.messages, env.clock,    env.media, &log_bridge, selected_count};
+  return PipelineEnv{env.app,         env.settings,   env.list,    env.options,
+                     env.interaction, env.messages,   env.clock,   env.media,
+                     &log_bridge,     selected_count, &open_files, mode != RunMode::kTest};
 }
 
 RenameRunResult StartRename(const RenameRunEnv& env) {

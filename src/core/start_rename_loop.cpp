@@ -6,6 +6,8 @@
 #include "core/file_date_time.h"
 #include "core/numbering.h"
 #include "core/pipeline.h"
+#include "core/pipeline_collision.h"
+#include "core/pipeline_name_diff.h"
 #include "core/run_error_handler.h"
 #include "core/run_file_ops.h"
 #include "core/start_rename_steps.h"
@@ -28,6 +30,8 @@ struct FileStep {
   std::string new_name;
   std::string new_path;
   bool failed = false;
+  // The new name was not checked against the folder: the move finds out.
+  bool name_unchecked = false;
 };
 
 bool OptionIs(const RunContext& run, std::string_view key, std::string_view value) {
@@ -68,10 +72,55 @@ void KeepDates(RunContext& run, FileStep& file, const std::string& path) {
   }
 }
 
-// Renames, copies or lists the file by the run's mode. False when the step
-// failed (the handler has reported it) and there is nothing to log.
-bool CarryOut(RunContext& run, FileStep& file) {
-  const bool base_ok = BasePasses(JoinPath(file.folder, file.new_name), file.new_name);
+enum class Carried { kDone, kSkipped, kFailed };
+
+// The question a taken name gets, asked when the run finds the name taken
+// (or, for a name that fails the base check, before that check, where the
+// pipeline used to ask it). Updates the new name; false when the file is to
+// be skipped or the name the user gave cannot be taken (then reported).
+bool DecideNameNow(RunContext& run, FileStep& file, bool found_taken, bool& failed) {
+  const PipelineEnv pipeline = run.Pipeline();
+  file.name_unchecked = false;
+  std::string name =
+      found_taken ? DecideTakenName(pipeline, file.new_name, file.folder, file.name)
+                  : DecideCollision(pipeline, file.name, file.new_name, file.folder, file.name);
+  try {
+    CheckNameForFileSystem(name);
+  } catch (const VbError& error) {
+    HandleRunError(run, error, file.old_path, JoinPath(file.folder, name), "");
+    failed = true;
+    return false;
+  }
+  file.new_name = std::move(name);
+  return !file.new_name.empty();
+}
+
+// The move or copy of the file; false when its new name, unchecked before,
+// turned out to be taken and nothing was done.
+bool MoveOrCopy(RunContext& run, const FileStep& file, bool copy) {
+  if (file.name_unchecked) {
+    return copy ? RunCopyUnlessTaken(run, file.old_path, file.new_path)
+                : RunMoveUnlessTaken(run, file.old_path, file.new_path);
+  }
+  if (copy) {
+    RunCopy(run, file.old_path, file.new_path);
+  } else {
+    RunMove(run, file.old_path, file.new_path);
+  }
+  return true;
+}
+
+// Renames, copies or lists the file by the run's mode. kFailed when the
+// step failed (the handler has reported it) and there is nothing to log;
+// kSkipped when the question about a taken name skipped the file.
+Carried CarryOut(RunContext& run, FileStep& file) {
+  bool base_ok = BasePasses(JoinPath(file.folder, file.new_name), file.new_name);
+  bool failed = false;
+  if (file.name_unchecked && !base_ok) {
+    if (!DecideNameNow(run, file, false, failed))
+      return failed ? Carried::kFailed : Carried::kSkipped;
+    base_ok = BasePasses(JoinPath(file.folder, file.new_name), file.new_name);
+  }
   if (!base_ok) {
     file.new_name = run.Text("run.filename_empty");
     file.failed = true;  // counted as failed: the file keeps its name
@@ -81,24 +130,34 @@ bool CarryOut(RunContext& run, FileStep& file) {
     run.command = "rem";
     run.note = run.Text("run.note_test_only");
     run.test_rows.push_back({file.name, file.new_name, file.folder});
-    return true;
+    return Carried::kDone;
   }
   const bool copy = run.mode == RunMode::kCopy;
+  // A file skipped at the question keeps the word of the file before.
+  const std::string command_before = run.command;
+  const std::string note_before = run.note;
   run.command = copy ? "del" : "move";
   run.note = run.Text(copy ? "run.note_created_copy" : "run.note_renamed");
   // Where the new name has nothing before its extension nothing is touched,
   // also in a change of case: the file keeps the name it came with.
-  if (!base_ok) return true;
+  if (!base_ok) return Carried::kDone;
+  bool done = true;
   const bool carried = Guarded(run, file.old_path, file.new_path, run.note, [&] {
-    if (copy) return RunCopy(run, file.old_path, file.new_path);
-    if (vb::UCase(file.old_path) == vb::UCase(file.new_path)) {
+    if (!copy && vb::UCase(file.old_path) == vb::UCase(file.new_path)) {
       return RunMoveThroughTemporaryName(run, file.old_path, file.new_path);
     }
-    RunMove(run, file.old_path, file.new_path);
+    done = MoveOrCopy(run, file, copy);
   });
-  if (!carried) return false;
+  if (!carried) return Carried::kFailed;
+  if (!done) {
+    run.command = command_before;
+    run.note = note_before;
+    if (!DecideNameNow(run, file, true, failed))
+      return failed ? Carried::kFailed : Carried::kSkipped;
+    return CarryOut(run, file);
+  }
   KeepDates(run, file, file.new_path);
-  return true;
+  return Carried::kDone;
 }
 
 void CountFile(RunContext& run, const FileStep& file, bool skipped) {
@@ -144,6 +203,7 @@ void RunFile(RunContext& run, FileStep& file, bool frozen) {
     return;
   }
   file.new_name = processed.name;
+  file.name_unchecked = processed.name_unchecked;
   bool skipped = file.new_name.empty();
   bool carried = true;
   if (skipped) {
@@ -151,7 +211,15 @@ void RunFile(RunContext& run, FileStep& file, bool frozen) {
     KeepDates(run, file, file.old_path);
     --app.RunFileCount;
   } else if (!app.CancelRun) {
-    carried = CarryOut(run, file);
+    const Carried outcome = CarryOut(run, file);
+    carried = outcome != Carried::kFailed;
+    if (outcome == Carried::kSkipped) {
+      // Taken, and skipped at the question: as a file the pipeline skipped.
+      skipped = true;
+      file.new_name.clear();
+      run.note = run.Text("run.note_file_skipped");
+      KeepDates(run, file, file.old_path);
+    }
     --app.RunFileCount;
   } else {
     // The run was cancelled at this file (the manual rename's Cancel): it is
@@ -176,15 +244,35 @@ void RunFile(RunContext& run, FileStep& file, bool frozen) {
   // the untouched file when the batch runs, so it becomes a comment.
   run.undo.WriteUndoEntry(file.old_path, file.new_path,
                           skipped && run.command == "del" ? "rem" : run.command);
-  SettleSteps(run);
+  // The batch now ends with the file's line, so its record may wait.
+  SettleSteps(run, true);
   CountFile(run, file, skipped);
 }
+
+// Log and batch stay open while the files are done: an entry costs one write.
+class HeldLogAndBatch {
+ public:
+  explicit HeldLogAndBatch(RunContext& run) : run_(run) {
+    run_.log.HoldFileOpen(true);
+    run_.undo.HoldFileOpen(true);
+  }
+  ~HeldLogAndBatch() {
+    run_.log.HoldFileOpen(false);
+    run_.undo.HoldFileOpen(false);
+  }
+  HeldLogAndBatch(const HeldLogAndBatch&) = delete;
+  HeldLogAndBatch& operator=(const HeldLogAndBatch&) = delete;
+
+ private:
+  RunContext& run_;
+};
 
 }  // namespace
 
 void RunFiles(RunContext& run) {
   AppState& app = run.env.app;
   Interaction& ui = run.env.interaction;
+  const HeldLogAndBatch held(run);
   for (std::size_t i = 0; i < run.rows.size(); ++i) {
     // The options are read anew for each file, and seen in one state while
     // it lasts.

@@ -22,6 +22,11 @@ struct FileRecord {
   std::uint32_t attributes = 0;
   std::uint32_t size = 0;  // the low 32 bits of the size in bytes
   FileTime last_write{};
+  FileTime last_access{};
+  // The birth time where the file system keeps one, else the last write.
+  FileTime created{};
+  // A link whose target is gone: the facts are the link's own.
+  bool dangling = false;
   // Where the entry (its target, for a link) lives, to tell a folder seen
   // before on the way down.
   std::uint64_t device = 0;

@@ -52,15 +52,15 @@ struct FolderView {
 
 bool IsJpeg(std::string_view extension) { return extension == "jpg" || extension == "jpeg"; }
 
-void FillDate(const FileRecord& record, const std::string& path, DateKind kind, FileRow& row) {
+void FillDate(const FileRecord& record, DateKind kind, FileRow& row) {
   if (kind == DateKind::kLastWrite) {
     row.date = record.last_write;
     row.has_date = true;
     return;
   }
-  const FileResult<FileTimes> times = GetFileTimes(path);
-  if (!times.ok()) return;
-  row.date = kind == DateKind::kLastAccess ? times.value().last_access : times.value().created;
+  // Kept: a link whose target is gone has no date but its own last write.
+  if (record.dangling) return;
+  row.date = kind == DateKind::kLastAccess ? record.last_access : record.created;
   row.has_date = true;
 }
 
@@ -73,7 +73,7 @@ void AddRow(FileList& list, const FolderView& view, const FileRecord& record,
   row.folder = view.folder_index;
   row.name_only = view.names_only;
   const std::string path = JoinPath(view.folder, record.name);
-  FillDate(record, path, view.date_kind, row);
+  FillDate(record, view.date_kind, row);
   if (!view.names_only) {
     row.type = list.InternType(*record.type_text);
     if (view.media_info) row.media_info = list.AddMediaText(media.MediaInfoText(path));

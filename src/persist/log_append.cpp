@@ -51,6 +51,29 @@ FileStatus AppendToFile(const std::filesystem::path& file, std::string_view byte
   return FileStatus::Success();
 }
 
+HeldAppendFile::~HeldAppendFile() { Close(); }
+
+void HeldAppendFile::Close() {
+  if (fd_ >= 0) ::close(fd_);
+  fd_ = -1;
+  path_.clear();
+}
+
+FileStatus HeldAppendFile::Append(const std::filesystem::path& file, std::string_view bytes) {
+  if (fd_ < 0 || file != path_) {
+    Close();
+    fd_ = ::open(file.c_str(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, kNewFileMode);
+    if (fd_ < 0) return Failure(errno, file);
+    path_ = file;
+  }
+  if (const int error = WriteAll(fd_, bytes)) {
+    // The next entry opens the file anew, as AppendToFile would.
+    Close();
+    return Failure(error, file);
+  }
+  return FileStatus::Success();
+}
+
 FileStatus AppendFileToFile(const std::filesystem::path& source,
                             const std::filesystem::path& target) {
   posix::UniqueFd in(::open(source.c_str(), O_RDONLY | O_CLOEXEC));

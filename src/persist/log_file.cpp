@@ -44,9 +44,13 @@ std::string RunLog::CancelSuffix() const {
   return std::string(kLineEnd) + std::string(env_.messages.Text("log.cancelled_by_user"));
 }
 
+void RunLog::HoldFileOpen(bool hold) {
+  held_ = hold ? std::make_shared<HeldAppendFile>() : nullptr;
+}
+
 void RunLog::Append(std::string_view bytes) {
   const std::string path = LogFilePath();
-  const FileStatus status = AppendToFile(path, bytes);
+  const FileStatus status = held_ ? held_->Append(path, bytes) : AppendToFile(path, bytes);
   if (!status.ok()) OfferToSwitchOff(env_, FailedWriter::kLog, status, path);
 }
 

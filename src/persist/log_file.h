@@ -1,8 +1,10 @@
 #pragma once
 
+#include <memory>
 #include <string>
 #include <string_view>
 
+#include "persist/log_append.h"
 #include "persist/log_undo_env.h"
 
 namespace tarnwick {
@@ -64,6 +66,10 @@ class RunLog {
   void LogOptionSettingsSnapshot(const OptionSnapshotDefaults& defaults);
   void LogRenameSettingsSnapshot(const RenameSettingsSnapshot& settings);
 
+  // Keeps the file open between the entries of a run (see HeldAppendFile);
+  // false lets it go. Only entries may be written while it is held.
+  void HoldFileOpen(bool hold);
+
  private:
   enum class Header { kRun, kTool };
 
@@ -76,6 +82,7 @@ class RunLog {
   void WriteHeader(int selected_count, Header kind);
 
   LogUndoEnv env_;
+  std::shared_ptr<HeldAppendFile> held_;
 };
 
 }  // namespace tarnwick

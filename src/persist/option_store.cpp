@@ -1,5 +1,6 @@
 #include "persist/option_store.h"
 
+#include <chrono>
 #include <mutex>
 #include <system_error>
 
@@ -16,9 +17,16 @@ struct OptionStore::Impl {
   // Brings the cached document up to date with the file on disk. One stat()
   // when nothing changed.
   void Refresh() const {
-    // Within one unit of work the file was checked already.
-    if (units > 0 && checked_in_unit && loaded && !racy) return;
+    // Within one unit of work the file was checked already; a new unit
+    // checks it when the last check is older than kUnitCheckInterval.
+    if (units > 0 && loaded && !racy && checked_in_unit) return;
+    const auto clock = std::chrono::steady_clock::now();
+    if (units > 0 && loaded && !racy) {
+      checked_in_unit = true;
+      if (clock - last_check < kUnitCheckInterval) return;
+    }
     checked_in_unit = true;
+    last_check = clock;
     const OptionFileIdentity now = StatOptionFile(file);
     if (loaded && !racy && now == identity) return;
     OptionFileContent content = ReadOptionFile(file);
@@ -68,6 +76,7 @@ struct OptionStore::Impl {
   // checked for changes since the outermost one began.
   mutable int units = 0;
   mutable bool checked_in_unit = false;
+  mutable std::chrono::steady_clock::time_point last_check{};
 };
 
 void OptionStore::SetOverride(std::string_view name, std::string_view section,

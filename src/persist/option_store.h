@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -47,9 +48,13 @@ class OptionStore {
   void SetOverride(std::string_view name, std::string_view section, std::string_view value);
 
   // One unit of work, such as one file of a rename run: while it lasts, the
-  // file is checked for changes by other processes once, at the first read,
-  // and every read sees that state (and this store's own writes). The next
-  // unit sees any change made in between. Units may nest.
+  // file is checked for changes by other processes at most once, at the
+  // first read, and every read sees that state (and this store's own
+  // writes). A unit that begins within kUnitCheckInterval of the last check
+  // takes the state of that check, so a run of many short units costs one
+  // stat per interval, not one per file; a change by another process is
+  // seen by the first unit after that interval. Units may nest.
+  static constexpr std::chrono::milliseconds kUnitCheckInterval{100};
   class Unit {
    public:
     explicit Unit(const OptionStore& store);

@@ -85,8 +85,12 @@ void UndoBatch::WriteUndoEntry(std::string_view old_path, std::string_view new_p
   std::string line = ToOemText(UndoEntryLine(old_path, new_path, command), target_);
   line += kLineEnd;
   const std::string path = UndoBatchPath();
-  const FileStatus status = AppendToFile(path, line);
+  const FileStatus status = held_ ? held_->Append(path, line) : AppendToFile(path, line);
   if (!status.ok()) OfferToSwitchOff(env_, FailedWriter::kUndo, status, path);
+}
+
+void UndoBatch::HoldFileOpen(bool hold) {
+  held_ = hold ? std::make_shared<HeldAppendFile>() : nullptr;
 }
 
 void UndoBatch::FinishUndoBatch() {

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <memory>
 #include <string>
 #include <string_view>
 
+#include "persist/log_append.h"
 #include "persist/log_undo_env.h"
 #include "persist/undo_oem_text.h"
 
@@ -58,11 +60,16 @@ class UndoBatch {
   // behind this run's lines. The temporary copy stays where it is.
   void FinishUndoBatch();
 
+  // Keeps the file open between the entries of a run (see HeldAppendFile);
+  // false lets it go. Only entries may be written while it is held.
+  void HoldFileOpen(bool hold);
+
  private:
   std::string EchoLine(std::string_view text) const;
 
   LogUndoEnv env_;
   UndoBatchTarget target_;
+  std::shared_ptr<HeldAppendFile> held_;
 };
 
 }  // namespace tarnwick

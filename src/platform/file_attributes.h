@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
 
 #include "platform/file_status.h"
 
@@ -31,6 +32,27 @@ inline constexpr int kCompressed = 0x800;
 // attribute byte the volume keeps gives R, H, S and A instead. A word that
 // would be 0 reads as N (128), as it does on Windows.
 FileResult<int> GetFileAttributes(const std::filesystem::path& path);
+
+// The attribute words of the entries of one folder, as GetFileAttributes
+// reads them, at the cost of the stat the caller has made already: the
+// folder's file system is asked once whether it keeps a FAT attribute byte
+// or extended attributes, and each entry is then asked only for what its
+// file system can hold (nothing more on a file system without extended
+// attributes). A subfolder that is the mount point of another file system
+// is read by the rules of the folder's file system.
+class FolderAttributeReader {
+ public:
+  // `folder_fd`: an open descriptor of the folder, used only here.
+  FolderAttributeReader(const std::filesystem::path& folder, int folder_fd);
+
+  // The word of the entry `name` whose stat (links followed) gave `mode`.
+  int Read(const std::string& name, unsigned mode) const;
+
+ private:
+  std::filesystem::path folder_;
+  bool fat_ = false;
+  bool extended_attributes_ = true;
+};
 
 // Sets the attribute word; the call replaces all attributes.
 //   R: set clears every write permission (owner, group, others); clear gives

@@ -1,6 +1,9 @@
 // Units of work of the option store, and values for this store only.
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <thread>
+
 #include "persist/option_store.h"
 #include "support/temp_dir.h"
 
@@ -28,6 +31,23 @@ TEST(OptionStoreUnitTest, AUnitSeesOneStateAndTheNextSeesTheChanges) {
     own.SaveOption("Top", "Options", "3");
     EXPECT_EQ(own.GetOption("Top", "Options", ""), "3");
   }
+}
+
+// A run opens one unit per file; a change another program makes is seen by
+// the first unit that begins once the check interval has passed.
+TEST(OptionStoreUnitTest, AChangeByAnotherStoreReachesTheUnitsOfARunWithinTheInterval) {
+  TempDir dir;
+  const OptionStore reader(dir.path() / "Tarnwick.ini");
+  OptionStore writer(dir.path() / "Tarnwick.ini");
+  writer.SaveOption("FreezeApp", "Options", "0");
+  {
+    const OptionStore::Unit unit(reader);
+    EXPECT_EQ(reader.GetOption("FreezeApp", "Options", ""), "0");
+  }
+  writer.SaveOption("FreezeApp", "Options", "1");
+  std::this_thread::sleep_for(OptionStore::kUnitCheckInterval + std::chrono::milliseconds(20));
+  const OptionStore::Unit unit(reader);
+  EXPECT_EQ(reader.GetOption("FreezeApp", "Options", ""), "1");
 }
 
 TEST(OptionStoreUnitTest, OverridesAreReadFirstAndNeverWritten) {

@@ -1,8 +1,12 @@
 #include "platform/file_attributes.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
+
+#include <string>
+#include <vector>
 
 #include "support/temp_dir.h"
 
@@ -156,6 +160,38 @@ TEST(FileAttributesTest, SambaRecordVersionsAndOddRecords) {
   ASSERT_TRUE(SetFileAttributes(file, fa::kSystem).ok());
   EXPECT_EQ(Record(file), std::string("0x4") + '\0');
   EXPECT_EQ(Attributes(file), fa::kSystem);
+}
+
+// The reader of a whole folder, fed with the mode of the caller's own stat,
+// gives every entry the word GetFileAttributes gives it.
+TEST(FileAttributesTest, TheFolderReaderAgreesWithTheSingleFileRead) {
+  TempDir dir;
+  const auto plain = dir.WriteFile("plain.txt", "x");
+  const auto locked = dir.WriteFile("locked.txt", "x");
+  ASSERT_TRUE(SetFileAttributes(locked, fa::kReadOnly | fa::kArchive).ok());
+  dir.WriteFile(".hidden", "x");
+  std::filesystem::create_directory(dir.path() / "folder");
+  std::filesystem::create_directory(dir.path() / ".dotfolder");
+  std::vector<std::string> names = {"plain.txt", "locked.txt", ".hidden", "folder", ".dotfolder"};
+  if (XattrsWork(plain)) {
+    const auto system = dir.WriteFile("system.sys", "x");
+    ASSERT_TRUE(SetFileAttributes(system, fa::kSystem | fa::kHidden | fa::kArchive).ok());
+    const auto normal = dir.WriteFile("normal.dat", "x");
+    ASSERT_TRUE(SetFileAttributes(normal, 0).ok());
+    const auto samba = dir.WriteFile("share.doc", "x");
+    const std::string record = SambaVersion5(0x11, fa::kTemporary, 0);
+    ASSERT_EQ(::setxattr(samba.c_str(), "user.DOSATTRIB", record.data(), record.size(), 0), 0);
+    names.insert(names.end(), {"system.sys", "normal.dat", "share.doc"});
+  }
+  const int fd = ::open(dir.path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  ASSERT_GE(fd, 0);
+  const FolderAttributeReader reader(dir.path(), fd);
+  ::close(fd);
+  for (const std::string& name : names) {
+    struct stat info;
+    ASSERT_EQ(::stat((dir.path() / name).c_str(), &info), 0) << name;
+    EXPECT_EQ(reader.Read(name, info.st_mode), Attributes(dir.path() / name)) << name;
+  }
 }
 
 }  // namespace

@@ -82,5 +82,43 @@ TEST(FileInUseTest, ScanWhenLeaseIsRefused) {
   EXPECT_EQ(WEXITSTATUS(status), 0);
 }
 
+// The scan of a run: a file held by another process is seen, and no longer
+// once the process let go and the scan is taken again (a max age of 0 takes
+// it at every question).
+TEST(FileInUseTest, TheScanOfARunSeesWhatTheSingleTestSees) {
+  TempDir dir;
+  const auto held = dir.WriteFile("held.txt", "x");
+  const auto free = dir.WriteFile("free.txt", "x");
+  int ready[2], release[2];
+  ASSERT_EQ(::pipe(ready), 0);
+  ASSERT_EQ(::pipe(release), 0);
+  const pid_t child = ::fork();
+  ASSERT_GE(child, 0);
+  if (child == 0) {
+    const int fd = ::open(held.c_str(), O_RDONLY);
+    char byte = fd >= 0 ? 'y' : 'n';
+    (void)!::write(ready[1], &byte, 1);
+    (void)!::read(release[0], &byte, 1);
+    _exit(0);
+  }
+  char byte = 0;
+  ASSERT_EQ(::read(ready[0], &byte, 1), 1);
+  ASSERT_EQ(byte, 'y');
+  OpenFileScan scan(std::chrono::milliseconds(0));
+  EXPECT_TRUE(scan.IsFileInUse(held));
+  EXPECT_FALSE(scan.IsFileInUse(free));
+  EXPECT_FALSE(scan.IsFileInUse(dir.path() / "missing"));
+  EXPECT_FALSE(scan.IsFileInUse(dir.path()));
+  (void)!::write(release[1], "x", 1);
+  int status = 0;
+  ::waitpid(child, &status, 0);
+  EXPECT_FALSE(scan.IsFileInUse(held));
+  // This process's own descriptors count too.
+  const int own = ::open(free.c_str(), O_RDONLY);
+  EXPECT_TRUE(scan.IsFileInUse(free));
+  ::close(own);
+  for (int fd : {ready[0], ready[1], release[0], release[1]}) ::close(fd);
+}
+
 }  // namespace
 }  // namespace tarnwick

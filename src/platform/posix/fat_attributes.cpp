@@ -23,14 +23,26 @@ UniqueFd OpenOnFat(const std::filesystem::path& path) {
   return UniqueFd(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
 }
 
-}  // namespace
-
-std::optional<int> ReadFatAttributes(const std::filesystem::path& path) {
-  const UniqueFd fd = OpenOnFat(path);
+std::optional<int> ReadFromFd(const UniqueFd& fd) {
   if (!fd.valid()) return std::nullopt;
   std::uint32_t attributes = 0;
   if (::ioctl(fd.get(), FAT_IOCTL_GET_ATTRIBUTES, &attributes) != 0) return std::nullopt;
   return static_cast<int>(attributes & (kFatBits | kDirectory));
+}
+
+}  // namespace
+
+std::optional<int> ReadFatAttributes(const std::filesystem::path& path) {
+  return ReadFromFd(OpenOnFat(path));
+}
+
+std::optional<int> ReadFatAttributesOnFat(const std::filesystem::path& path) {
+  return ReadFromFd(UniqueFd(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK)));
+}
+
+bool FolderIsOnFat(int dir_fd) {
+  struct statfs info;
+  return ::fstatfs(dir_fd, &info) == 0 && info.f_type == MSDOS_SUPER_MAGIC;
 }
 
 bool WriteFatAttributes(const std::filesystem::path& path, int attributes) {

@@ -20,10 +20,9 @@ constexpr char kDosAttributes[] = "user.DOSATTRIB";
 constexpr int kStoredBits = fa::kReadOnly | fa::kHidden | fa::kSystem | fa::kArchive | fa::kNormal |
                             fa::kTemporary | fa::kCompressed;
 
-bool DotName(const std::filesystem::path& path) {
-  const std::string name = path.filename().string();
-  return name.size() > 1 && name[0] == '.' && name != "..";
-}
+bool DotName(const std::string& name) { return name.size() > 1 && name[0] == '.' && name != ".."; }
+
+bool DotName(const std::filesystem::path& path) { return DotName(path.filename().string()); }
 
 // The stored record; empty when there is none or it cannot be read.
 std::string ReadRecord(const std::filesystem::path& path) {
@@ -32,19 +31,24 @@ std::string ReadRecord(const std::filesystem::path& path) {
   return size > 0 ? std::string(value, static_cast<size_t>(size)) : std::string();
 }
 
-int WordFromMode(const struct stat& info) {
+int WordFromMode(mode_t mode) {
   int word = 0;
-  if (S_ISDIR(info.st_mode)) word |= fa::kDirectory;
-  if (S_ISREG(info.st_mode)) word |= fa::kArchive;
+  if (S_ISDIR(mode)) word |= fa::kDirectory;
+  if (S_ISREG(mode)) word |= fa::kArchive;
   return word;
 }
 
-// Bits the permission bits and the name show without a record.
-int ImpliedBits(const struct stat& info, const std::filesystem::path& path) {
-  int word = 0;
-  if ((info.st_mode & S_IWUSR) == 0) word |= fa::kReadOnly;
-  if (DotName(path)) word |= fa::kHidden;
-  return word;
+int WordFromMode(const struct stat& info) { return WordFromMode(info.st_mode); }
+
+// The word from the kind and permissions of the entry, its name, and what
+// the file system stores for it (a DOSATTRIB record, or a FAT byte).
+int ComposeWord(mode_t mode, bool dot_name, const std::optional<int>& stored) {
+  int word = WordFromMode(mode);
+  if (stored) word = (word & fa::kDirectory) | (*stored & kStoredBits);
+  if ((mode & S_IWUSR) == 0) word |= fa::kReadOnly;
+  if (dot_name) word |= fa::kHidden;
+  if (word & ~fa::kNormal) word &= ~fa::kNormal;
+  return word == 0 ? fa::kNormal : word;
 }
 
 // The permission bits for the R bit, from the bits the file had.
@@ -81,15 +85,28 @@ FileResult<int> GetFileAttributes(const std::filesystem::path& path) {
   struct stat info;
   if (path.empty()) return FileStatus::Error(vb_error::kBadFileName);
   if (::stat(path.c_str(), &info) != 0) return posix::StatusFromErrno(errno, path);
-  int word = WordFromMode(info);
-  if (const std::optional<int> stored = posix::ReadDosAttributes(ReadRecord(path))) {
-    word = (word & fa::kDirectory) | (*stored & kStoredBits);
-  } else if (const std::optional<int> fat = posix::ReadFatAttributes(path)) {
-    word = (word & fa::kDirectory) | (*fat & kStoredBits);
+  std::optional<int> stored = posix::ReadDosAttributes(ReadRecord(path));
+  if (!stored) stored = posix::ReadFatAttributes(path);
+  return ComposeWord(info.st_mode, DotName(path), stored);
+}
+
+FolderAttributeReader::FolderAttributeReader(const std::filesystem::path& folder, int folder_fd)
+    : folder_(folder), fat_(posix::FolderIsOnFat(folder_fd)) {
+  char value[1];
+  if (::fgetxattr(folder_fd, kDosAttributes, value, 0) < 0 &&
+      (errno == ENOTSUP || errno == EOPNOTSUPP)) {
+    extended_attributes_ = false;
   }
-  word |= ImpliedBits(info, path);
-  if (word & ~fa::kNormal) word &= ~fa::kNormal;
-  return word == 0 ? fa::kNormal : word;
+}
+
+int FolderAttributeReader::Read(const std::string& name, unsigned mode) const {
+  std::optional<int> stored;
+  if (extended_attributes_ || fat_) {
+    const std::filesystem::path path = folder_ / name;
+    if (extended_attributes_) stored = posix::ReadDosAttributes(ReadRecord(path));
+    if (!stored && fat_) stored = posix::ReadFatAttributesOnFat(path);
+  }
+  return ComposeWord(static_cast<mode_t>(mode), DotName(name), stored);
 }
 
 FileStatus SetFileAttributes(const std::filesystem::path& path, int attributes) {

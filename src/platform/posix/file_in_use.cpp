@@ -6,7 +6,11 @@
 #include <sys/stat.h>
 
 #include <cctype>
+#include <cstdint>
+#include <functional>
 #include <string>
+#include <unordered_set>
+#include <utility>
 
 #include "platform/posix/unique_fd.h"
 
@@ -51,22 +55,84 @@ bool FolderHoldsInode(const std::string& fd_folder, dev_t device, ino_t inode) {
   return found;
 }
 
-bool AnyProcessHolds(dev_t device, ino_t inode) {
+// Calls `visit` with the fd folder of each process until it returns true;
+// false when /proc cannot be read.
+template <typename Visit>
+bool ForEachProcessFdFolder(Visit visit) {
   DIR* processes = ::opendir("/proc");
   if (processes == nullptr) return false;
-  bool found = false;
   while (const dirent* entry = ::readdir(processes)) {
     if (!AllDigits(entry->d_name)) continue;
-    if (FolderHoldsInode(std::string("/proc/") + entry->d_name + "/fd", device, inode)) {
-      found = true;
-      break;
-    }
+    if (visit(std::string("/proc/") + entry->d_name + "/fd")) break;
   }
   ::closedir(processes);
+  return true;
+}
+
+bool AnyProcessHolds(dev_t device, ino_t inode) {
+  bool found = false;
+  ForEachProcessFdFolder([&](const std::string& fd_folder) {
+    found = FolderHoldsInode(fd_folder, device, inode);
+    return found;
+  });
   return found;
 }
 
+using FileId = std::pair<dev_t, ino_t>;
+
+struct FileIdHash {
+  std::size_t operator()(const FileId& id) const {
+    return std::hash<std::uint64_t>()(static_cast<std::uint64_t>(id.first) * 0x9E3779B97F4A7C15ull ^
+                                      static_cast<std::uint64_t>(id.second));
+  }
+};
+
+// The regular files the descriptors in `fd_folder` name.
+void AddOpenFiles(const std::string& fd_folder, std::unordered_set<FileId, FileIdHash>& open) {
+  DIR* folder = ::opendir(fd_folder.c_str());
+  if (folder == nullptr) return;  // Not ours to read, or gone.
+  while (const dirent* entry = ::readdir(folder)) {
+    if (!AllDigits(entry->d_name)) continue;
+    struct stat info;
+    if (::fstatat(::dirfd(folder), entry->d_name, &info, 0) != 0) continue;
+    if (S_ISREG(info.st_mode)) open.insert({info.st_dev, info.st_ino});
+  }
+  ::closedir(folder);
+}
+
 }  // namespace
+
+struct OpenFileScan::Table {
+  std::unordered_set<FileId, FileIdHash> open;
+  std::chrono::steady_clock::time_point taken{};
+  bool taken_once = false;
+  bool proc_readable = true;
+
+  void Take() {
+    open.clear();
+    proc_readable = ForEachProcessFdFolder([&](const std::string& fd_folder) {
+      AddOpenFiles(fd_folder, open);
+      return false;
+    });
+    taken = std::chrono::steady_clock::now();
+    taken_once = true;
+  }
+};
+
+OpenFileScan::OpenFileScan(std::chrono::milliseconds max_age)
+    : table_(std::make_unique<Table>()), max_age_(max_age) {}
+
+OpenFileScan::~OpenFileScan() = default;
+
+bool OpenFileScan::IsFileInUse(const std::filesystem::path& path) {
+  if (!table_->taken_once || std::chrono::steady_clock::now() - table_->taken >= max_age_) {
+    table_->Take();
+  }
+  if (!table_->proc_readable) return tarnwick::IsFileInUse(path);
+  struct stat info;
+  if (path.empty() || ::stat(path.c_str(), &info) != 0 || !S_ISREG(info.st_mode)) return false;
+  return table_->open.contains({info.st_dev, info.st_ino});
+}
 
 bool IsFileInUse(const std::filesystem::path& path) {
   struct stat info;
