@@ -2,12 +2,15 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QFileInfo>
 #include <QPixmap>
 #include <QTableView>
 #include <chrono>
 
 #include "dialog_screenshot.h"
+#include "base/path_text.h"
 #include "main_window.h"
+#include "playlist_dialog.h"
 #include "persist/option_store.h"
 #include "qt_text.h"
 #include "startup/startup.h"
@@ -22,6 +25,15 @@ std::string JoinArguments(std::span<const std::string> args) {
     line += arg;
   }
   return line;
+}
+
+// The playlist file a command line of one argument names, made absolute;
+// empty for anything else.
+std::string PlaylistArgument(std::span<const std::string> args) {
+  if (args.size() != 1 || !IsPlaylistName(args[0])) return {};
+  const QFileInfo file(Q(args[0]));
+  if (!file.isFile()) return {};
+  return S(file.absoluteFilePath());
 }
 
 }  // namespace
@@ -63,8 +75,13 @@ int RunDesktop(int& argc, char** argv, std::span<const std::string> args, std::o
   QApplication::setOrganizationName("Oakhollow");
   OptionStore options = OptionStore::ForCurrentUser();
   MainWindow window(options, MessageTable::Get(ChosenLanguage(options)));
-  if (!StartWindow(window, JoinArguments(args), err)) return 2;
+  // "tarnwick PLAYLIST.m3u": the playlist's folder in the window, the
+  // playlist in the editor.
+  const std::string playlist = PlaylistArgument(args);
+  const std::string line = playlist.empty() ? JoinArguments(args) : ParentFolder(playlist);
+  if (!StartWindow(window, line, err)) return 2;
   window.show();
+  if (!playlist.empty()) window.OpenPlaylistEditor(playlist);
   return QApplication::exec();
 }
 
