@@ -12,6 +12,7 @@
 #include "media/audio_length.h"
 #include "media/id3_v1.h"
 #include "media/id3_v2_read.h"
+#include "media/media_file.h"
 #include "media/mpeg_info.h"
 #include "platform/files.h"
 #include "playlist/media_types.h"
@@ -23,14 +24,18 @@ namespace {
 
 // The length of an MP3 file by the MPEG reader; nothing when it finds no
 // frame.
-std::optional<std::string> Mp3Length(const std::string& path) {
+std::optional<std::string> Mp3Length(const MediaFile& file) {
   MPEGInfo info;
   try {
-    if (!ReadMPEGInfo(path, info)) return std::nullopt;
+    if (!ReadMPEGInfo(file, info)) return std::nullopt;
   } catch (const VbError&) {
     return std::nullopt;
   }
   return LengthText(info.length);
+}
+
+std::optional<std::string> Mp3Length(const std::string& path) {
+  return Mp3Length(MediaFile(path, MediaFile::Mode::kRead));
 }
 
 }  // namespace
@@ -56,15 +61,18 @@ std::size_t RemoveTaggedRows(std::vector<PlaylistRow>& rows) {
 }
 
 bool CorrectRow(PlaylistRow& row) {
-  if (!RowFileExists(row)) return false;
+  // One opening of the file serves the tags and the stream.
+  if (row.path.empty() || row.path.front() != '/') return false;
+  const MediaFile file(row.path, MediaFile::Mode::kRead);
+  if (!file.is_open()) return false;
   std::string artist;
   std::string title;
   ID3v2Tag v2;
   ID3v1Tag v1;
-  if (ReadID3v2(row.path, v2)) {
+  if (ReadID3v2(file, v2)) {
     artist = StripAtNull(v2.artist);
     title = StripAtNull(v2.title);
-  } else if (ReadID3v1(row.path, v1)) {
+  } else if (ReadID3v1(file, v1)) {
     artist = StripAtNull(v1.artist);
     title = StripAtNull(v1.title);
   } else {
@@ -72,7 +80,7 @@ bool CorrectRow(PlaylistRow& row) {
   }
   row.title = artist + " - " + title;
   // A file without MPEG frames (a tagged WAV) keeps the length it had.
-  if (std::optional<std::string> length = Mp3Length(row.path)) row.length = *length;
+  if (std::optional<std::string> length = Mp3Length(file)) row.length = *length;
   return true;
 }
 
