@@ -10,6 +10,7 @@
 #include "cli_command.h"
 #include "json_text.h"
 #include "persist/option_store.h"
+#include "playlist/copy_titles.h"
 #include "playlist/lost_files.h"
 #include "playlist/playlist_file.h"
 #include "playlist/playlist_length.h"
@@ -35,7 +36,9 @@ struct PlaylistArgs {
 };
 
 std::optional<std::string> ParseArgs(std::span<const std::string> args, PlaylistArgs& a) {
-  if (args.empty()) return "an action is missing (show, convert, check, correct, find-lost, make)";
+  if (args.empty()) {
+    return "an action is missing (show, convert, check, correct, find-lost, make, copy, move)";
+  }
   a.action = args[0];
   for (std::size_t i = 1; i < args.size(); ++i) {
     const std::string& arg = args[i];
@@ -212,13 +215,49 @@ int Make(const PlaylistArgs& a, CliIo& io) {
   return saved;
 }
 
+// Copies or moves the files of the titles into DIR; the playlist stays as
+// it is.
+int CopyOrMove(const PlaylistArgs& a, CliIo& io) {
+  const auto rows = Load(a.inputs[0], io);
+  if (!rows) return kExitFailure;
+  const std::string folder = FullFolder(a.inputs[1]);
+  if (!FolderExists(folder)) return Failure(io, folder + ": no such folder");
+  const bool copy = a.action == "copy";
+  const std::string doing(Message(copy ? "playlist.copying" : "playlist.moving"));
+  const CopyTitlesResult result = CopyPlaylistTitles(
+      *rows, folder, copy ? CopyTitlesMode::kCopy : CopyTitlesMode::kMove,
+      [&](std::size_t number, std::size_t total, const std::string& path, bool missing) {
+        if (missing) {
+          io.out << Message("playlist.file_does_not_exist") << ' ' << path << '\n';
+        } else {
+          io.out << doing << " [" << number << '/' << total << "] " << path << '\n';
+        }
+        return true;
+      });
+  for (const std::string& target : result.existing) {
+    io.err << "not replaced: " << target << '\n';
+  }
+  for (const std::string& failure : result.failed) io.err << "failed: " << failure << '\n';
+  if (result.missing > 0) {
+    io.out << result.missing << ' '
+           << Message(copy ? "playlist.files_not_copied" : "playlist.files_not_moved") << '\n';
+  }
+  if (result.missing > 0 || !result.existing.empty() || !result.failed.empty()) {
+    return kExitFailure;
+  }
+  io.out << Message("playlist.action_successful") << '\n';
+  return kExitOk;
+}
+
 struct Action {
   std::string_view name;
   std::size_t inputs;
   bool needs_out;
 };
 
-constexpr std::array<Action, 6> kActions = {{
+constexpr std::array<Action, 8> kActions = {{
+    {"copy", 2, false},
+    {"move", 2, false},
     {"show", 1, false},
     {"convert", 2, false},
     {"check", 1, false},
@@ -251,10 +290,11 @@ int RunPlaylist(std::span<const std::string> args, CliIo& io) {
   if (a.action == "check") return Check(a, io);
   if (a.action == "correct") return Correct(a, io);
   if (a.action == "find-lost") return FindLost(a, io);
+  if (a.action == "copy" || a.action == "move") return CopyOrMove(a, io);
   return Make(a, io);
 }
 
-constexpr std::array<CommandForm, 6> kForms = {{
+constexpr std::array<CommandForm, 7> kForms = {{
     {"playlist show FILE [--json]", "list the titles: title, length, path and whether the file exists"},
     {"playlist convert IN OUT [--overwrite]", "write IN in the format of OUT's extension"},
     {"playlist check FILE [--remove-missing --out OUT] [--overwrite]",
@@ -265,6 +305,7 @@ constexpr std::array<CommandForm, 6> kForms = {{
      "look for the files of missing titles"},
     {"playlist make DIR --out OUT [--subfolders] [--overwrite]",
      "a playlist of the music files of a folder"},
+    {"playlist copy|move FILE DIR", "copy or move the titles' files into DIR"},
 }};
 
 constexpr std::string_view kDetails =
@@ -290,7 +331,12 @@ constexpr std::string_view kDetails =
     "  --subfolders    find-lost, make: look in all subfolders too\n"
     "make titles the files as the editor does when it adds them: \"Artist - Title\"\n"
     "from the tags when the option CorrectPlaylistFiles is 1 (the default), else\n"
-    "the file name. Exit status: 0 done, 1 failed, 2 wrong arguments.\n";
+    "the file name.\n"
+    "copy and move put each title's file into DIR under its own name, in list\n"
+    "order; a file already in DIR is never replaced (it is named on standard\n"
+    "error), and the playlist is not changed, not even after a move. Exit\n"
+    "status: 0 done, 1 failed (for copy and move: a file was missing, already\n"
+    "there or could not be written), 2 wrong arguments.\n";
 
 }  // namespace
 

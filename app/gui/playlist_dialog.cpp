@@ -23,6 +23,7 @@
 #include "base/path_text.h"
 #include "base/text.h"
 #include "playlist/media_types.h"
+#include "playlist/copy_titles.h"
 #include "playlist/playlist_file.h"
 #include "playlist/playlist_length.h"
 #include "playlist/playlist_rows.h"
@@ -211,10 +212,10 @@ void PlaylistDialog::BuildButtons(QVBoxLayout* column) {
   add("cmdDeselectAll", "playlist.button.deselect_all", [this] { TickAll(false); });
   add("cmdCheckList", "playlist.button.check_list", [this] { CheckAll(); });
   column->addSpacing(8);
-  copy_files_ = add("cmdCopyFiles", "playlist.button.copy_files", [] {});
-  move_files_ = add("cmdMoveFiles", "playlist.button.move_files", [] {});
-  copy_files_->setEnabled(false);
-  move_files_->setEnabled(false);
+  copy_files_ = add("cmdCopyFiles", "playlist.button.copy_files",
+                    [this] { CopyFiles(CopyTitlesMode::kCopy); });
+  move_files_ = add("cmdMoveFiles", "playlist.button.move_files",
+                    [this] { CopyFiles(CopyTitlesMode::kMove); });
   column->addSpacing(8);
   add("cmdLoad", "playlist.button.load", [this] { Load(); });
   add("cmdSavePLS", "playlist.button.save", [this] { Save(); });
@@ -473,6 +474,12 @@ void PlaylistDialog::SearchLost() {
   const bool changed = SearchLostFiles(rows_, ui());
   setEnabled(true);
   Changed(changed);
+}
+
+void PlaylistDialog::CopyFiles(CopyTitlesMode mode) {
+  setEnabled(false);
+  CopyTitles(rows_, mode, options_, ui());
+  setEnabled(true);
 }
 
 void PlaylistDialog::ChangePath() {

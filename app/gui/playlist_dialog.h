@@ -8,6 +8,7 @@
 
 #include "base/random.h"
 #include "persist/option_store.h"
+#include "playlist/copy_titles.h"
 #include "playlist/playlist_commands.h"
 #include "playlist/playlist_row.h"
 #include "shell/interaction.h"
@@ -61,6 +62,8 @@ class PlaylistDialog : public QDialog {
   void Shuffle();
   void SearchLost();
   void ChangePath();
+  // `cmdCopyFiles`, `cmdMoveFiles`: the ticked rows' files into a folder.
+  void CopyFiles(CopyTitlesMode mode);
   void ClearAll();
 
   const std::vector<PlaylistRow>& rows() const { return rows_; }

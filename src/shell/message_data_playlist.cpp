@@ -132,6 +132,11 @@ constexpr MessageEntry kEntries[] = {
      "path:",
      "Dieser Pfad enthält einen Zeilenumbruch, den keine Playlist speichern kann. Entfernen Sie "
      "den Titel oder ändern Sie seinen Pfad:"},
+    {0, "playlist.targets_exist", "files are already in the folder and were left as they are.",
+     "Dateien sind bereits im Ordner und wurden nicht verändert."},
+    {0, "playlist.copy_failed", "files could not be copied or moved:",
+     "Dateien konnten nicht kopiert oder verschoben werden:"},
+    {0, "playlist.copy_cancelled", "Cancelled.", "Abgebrochen."},
     {0, "playlist.tag_editor_missing", "The tag editor is not available yet.",
      "Der Tag-Editor ist noch nicht verfügbar."},
 };

@@ -92,6 +92,28 @@ TEST_F(CliPlaylistTest, MakeBuildsAListOfTheMusicFiles) {
   EXPECT_THAT(ReadWholeFile(Path("n.m3u")), HasSubstr(",a\n" + Path("music/sub/a.wav") + "\n"));
 }
 
+TEST_F(CliPlaylistTest, CopyAndMovePutTheFilesIntoAFolderAndReplaceNothing) {
+  Copy("tone.wav", "music/a.wav");
+  Copy("tone.wav", "music/b.wav");
+  cli_.dir().WriteFile("out/b.wav", "older");
+  cli_.dir().WriteFile("list.m3u", "music/a.wav\nmusic/b.wav\nmusic/gone.wav\n");
+  CliResult r = cli_.Run({"playlist", "copy", Path("list.m3u"), Path("out")});
+  EXPECT_EQ(r.exit_code, 1);
+  EXPECT_THAT(r.out, HasSubstr("Copying: [1/3] " + Path("music/a.wav")));
+  EXPECT_THAT(r.out, HasSubstr("1 files not found an not copied!"));
+  EXPECT_THAT(r.err, HasSubstr("not replaced: " + Path("out/b.wav")));
+  EXPECT_EQ(ReadWholeFile(Path("out/b.wav")), "older");
+  EXPECT_TRUE(std::filesystem::exists(Path("out/a.wav")));
+
+  cli_.dir().WriteFile("two.m3u", "music/b.wav\n");
+  std::filesystem::create_directories(Path("moved"));
+  r = cli_.Run({"playlist", "move", Path("two.m3u"), Path("moved")});
+  ASSERT_EQ(r.exit_code, 0) << r.err;
+  EXPECT_THAT(r.out, HasSubstr("Action successfull!"));
+  EXPECT_FALSE(std::filesystem::exists(Path("music/b.wav")));
+  EXPECT_TRUE(std::filesystem::exists(Path("moved/b.wav")));
+}
+
 TEST_F(CliPlaylistTest, BadInputGivesAClearMessage) {
   cli_.dir().WriteFile("bin.m3u", std::string("\0\1\2\3", 4));
   CliResult r = cli_.Run({"playlist", "show", Path("bin.m3u")});

@@ -126,6 +126,21 @@ TEST_F(PlaylistDialogTest, SavingRefusesAnEmptyListAndClosingAsksAboutChanges) {
   EXPECT_TRUE(interaction.failures().empty());
 }
 
+TEST_F(PlaylistDialogTest, CopyFilesPutsTheTickedTitlesIntoTheChosenFolder) {
+  auto editor = Editor();
+  editor->AddFiles({QString::fromStdString(Fixture("tone.wav", "t.wav")),
+                    QString::fromStdString(Fixture("v1_plain.mp3", "p.mp3"))});
+  editor->list()->topLevelItem(1)->setCheckState(0, Qt::Unchecked);
+  std::filesystem::create_directories(dir.path() / "out");
+  interaction.Then(TextAnswer{(dir.path() / "out").string()}).Then(Answer::kOk);
+  editor->CopyFiles(CopyTitlesMode::kCopy);
+  EXPECT_TRUE(std::filesystem::exists(dir.path() / "out/t.wav"));
+  EXPECT_FALSE(std::filesystem::exists(dir.path() / "out/p.mp3"));
+  EXPECT_EQ(interaction.asked().back().text, "Action successfull!");
+  EXPECT_EQ(editor->status()->text().toStdString(), "Copying: [1/2] t.wav ...");
+  EXPECT_TRUE(editor->isEnabled());
+}
+
 TEST_F(PlaylistDialogTest, TheTagEditorEntryWaitsAndABadFileIsRefused) {
   auto editor = Editor();
   EXPECT_FALSE(Action(*editor, "mnuEditMP3Tags")->isEnabled());
