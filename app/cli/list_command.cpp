@@ -121,8 +121,9 @@ int RunList(std::span<const std::string> args, CliIo& io) {
   bool cancelled = false;
   {
     ScopedInterruptCancel interrupt(state);
-    loader.FillListView(list, {a.folder, a.subfolders});
-    cancelled = TakeInterruptRequest();
+    // The fill's Esc test takes the Ctrl-C request; the fill says it stopped.
+    cancelled = loader.FillListView(list, {a.folder, a.subfolders});
+    cancelled = TakeInterruptRequest() || cancelled;
   }
   ui.HideProgress();
   if (a.format == Format::kJson) {

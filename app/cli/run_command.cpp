@@ -23,6 +23,7 @@
 #include "persist/log_undo_state.h"
 #include "persist/option_store.h"
 #include "platform/files.h"
+#include "platform/user_folders.h"
 #include "run_args.h"
 #include "run_settings_file.h"
 #include "shell/app_state.h"
@@ -135,6 +136,7 @@ int RunCommand(std::span<const std::string> raw, CliIo& io, bool preview) {
   LogUndoEnv log_env{options, ui, messages, clock, app, log_undo};
   RunLog log(log_env);
   CreateDefaultPaths(log_env, log, UserDataBaseFolder(), UserDataFallbackFolder());
+  log_undo.ProgramFolder = ProgramFilesFolder().string();
   CompleteKilledRuns(options, log_undo, io);
 
   FillLog fill_log(io.err);

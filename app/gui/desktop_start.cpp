@@ -18,15 +18,6 @@
 namespace tarnwick::gui {
 namespace {
 
-std::string JoinArguments(std::span<const std::string> args) {
-  std::string line;
-  for (const std::string& arg : args) {
-    if (!line.empty()) line += ' ';
-    line += arg;
-  }
-  return line;
-}
-
 // The playlist file a command line of one argument names, made absolute;
 // empty for anything else.
 std::string PlaylistArgument(std::span<const std::string> args) {
@@ -38,12 +29,12 @@ std::string PlaylistArgument(std::span<const std::string> args) {
 
 }  // namespace
 
-// Start-up of the window with `line` as the command line. False when start-up
-// ended the process.
-bool StartWindow(MainWindow& window, const std::string& line, std::ostream& err) {
+// Start-up of the window with `arguments` as the command line. False when
+// start-up ended the process.
+bool StartWindow(MainWindow& window, std::vector<std::string> arguments, std::ostream& err) {
   window.app().LoadingFlag = true;
-  const StartupResult result =
-      RunStartup(window.env(), window.settings(), window.host(), MachineStartupInput(line));
+  const StartupResult result = RunStartup(window.env(), window.settings(), window.host(),
+                                          MachineStartupInput(std::move(arguments)));
   window.app().LoadingFlag = false;
   window.ShowSettings();
   if (result.outcome == StartupResult::Outcome::kReady) return true;
@@ -57,12 +48,16 @@ Language ChosenLanguage(const OptionStore& options) {
   return LanguageChoice(options.GetOption("Language", "Options", ""));
 }
 
+namespace {
+
 // Whether Qt can show a window: a display, or a platform chosen by hand.
 bool HasDisplay() {
   return !qEnvironmentVariableIsEmpty("DISPLAY") ||
          !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ||
          !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
 }
+
+}  // namespace
 
 int RunDesktop(int& argc, char** argv, std::span<const std::string> args, std::ostream& err) {
   if (!HasDisplay()) {
@@ -78,8 +73,9 @@ int RunDesktop(int& argc, char** argv, std::span<const std::string> args, std::o
   // "tarnwick PLAYLIST.m3u": the playlist's folder in the window, the
   // playlist in the editor.
   const std::string playlist = PlaylistArgument(args);
-  const std::string line = playlist.empty() ? JoinArguments(args) : ParentFolder(playlist);
-  if (!StartWindow(window, line, err)) return 2;
+  std::vector<std::string> arguments(args.begin(), args.end());
+  if (!playlist.empty()) arguments = {ParentFolder(playlist)};
+  if (!StartWindow(window, std::move(arguments), err)) return 2;
   window.show();
   if (!playlist.empty()) window.OpenPlaylistEditor(playlist);
   return QApplication::exec();
@@ -93,14 +89,14 @@ int RunScreenshot(int& argc, char** argv, std::span<const std::string> args, std
     return 2;
   }
   const QString out = Q(args[1]);
-  std::string folder;
+  std::vector<std::string> folder;
   QSize size(1200, 800);
   for (std::size_t i = 2; i < args.size(); ++i) {
     if (args[i] == "--size" && i + 1 < args.size()) {
       const QStringList parts = Q(args[++i]).split('x');
       if (parts.size() == 2) size = QSize(parts[0].toInt(), parts[1].toInt());
     } else {
-      folder = args[i];
+      folder = {args[i]};
     }
   }
   qputenv("QT_QPA_PLATFORM", "offscreen");

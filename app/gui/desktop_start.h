@@ -3,6 +3,7 @@
 #include <ostream>
 #include <span>
 #include <string>
+#include <vector>
 
 #include "persist/option_store.h"
 #include "shell/message_table.h"
@@ -11,9 +12,9 @@ namespace tarnwick::gui {
 
 class MainWindow;
 
-// Start-up of the window with `line` as the command line. False when start-up
-// ended the process (the reason on `err`).
-bool StartWindow(MainWindow& window, const std::string& line, std::ostream& err);
+// Start-up of the window with `arguments` as the command line. False when
+// start-up ended the process (the reason on `err`).
+bool StartWindow(MainWindow& window, std::vector<std::string> arguments, std::ostream& err);
 
 // The language the options name, read once at start: a switch in the
 // options applies from the next start.

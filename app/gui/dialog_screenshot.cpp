@@ -4,6 +4,7 @@
 #include <QPixmap>
 #include <QTableView>
 #include <filesystem>
+#include <vector>
 
 #include "desktop_start.h"
 #include "main_window.h"
@@ -53,12 +54,12 @@ const DialogShot* FindShot(std::string_view name) {
 }
 
 // The folder start-up shows: FILE itself when it is a folder, else its folder.
-std::string StartFolder(const std::string& file) {
+std::vector<std::string> StartFolder(const std::string& file) {
   if (file.empty()) return {};
   std::error_code error;
   const std::filesystem::path path = std::filesystem::absolute(file, error);
-  if (std::filesystem::is_directory(path, error)) return path.string();
-  return path.parent_path().string();
+  if (std::filesystem::is_directory(path, error)) return {path.string()};
+  return {path.parent_path().string()};
 }
 
 void SelectFileRow(MainWindow& window, const std::string& file) {

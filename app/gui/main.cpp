@@ -2,8 +2,8 @@
 #include <string>
 #include <vector>
 
-#include "base/text.h"
 #include "desktop_start.h"
+#include "startup/command_line.h"
 #include "unattended_start.h"
 
 int main(int argc, char** argv) {
@@ -11,9 +11,8 @@ int main(int argc, char** argv) {
   if (!args.empty() && args.front() == "--screenshot") {
     return tarnwick::gui::RunScreenshot(argc, argv, args, std::cerr);
   }
-  // The unattended start needs no display and never creates a window.
-  for (const std::string& arg : args) {
-    if (tarnwick::ContainsText(arg, "-d")) return tarnwick::gui::RunTarnwick(args, std::cerr);
-  }
+  // The unattended start needs no display and never creates a window. Only
+  // "-d" as an argument of its own is the switch: "~/my-docs" is a folder.
+  if (tarnwick::HasBatchSwitch(args)) return tarnwick::gui::RunTarnwick(args, std::cerr);
   return tarnwick::gui::RunDesktop(argc, argv, args, std::cerr);
 }

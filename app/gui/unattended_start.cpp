@@ -16,15 +16,6 @@
 namespace tarnwick::gui {
 namespace {
 
-std::string JoinArguments(std::span<const std::string> args) {
-  std::string line;
-  for (const std::string& arg : args) {
-    if (!line.empty()) line += ' ';
-    line += arg;
-  }
-  return line;
-}
-
 int ExitStatus(const StartupResult& result, std::ostream& err) {
   using Outcome = StartupResult::Outcome;
   if (result.outcome == Outcome::kFailed || result.outcome == Outcome::kLeft) {
@@ -55,13 +46,12 @@ int ExitStatus(const StartupResult& result, std::ostream& err) {
 
 int RunTarnwick(std::span<const std::string> args, std::ostream& err) {
   const MessageTable& messages = MessageTable::Get(SystemLanguage());
-  const std::string line = JoinArguments(args);
-  if (!ContainsText(line, "-d")) {
+  if (!HasBatchSwitch(args)) {
     err << "tarnwick: " << messages.Text("startup.no_desktop_window") << '\n';
     return kExitBadStart;
   }
-  StartupInput input = MachineStartupInput(line);
-  const CommandLine parsed = ParseCommandLine(line, input.working_folder);
+  StartupInput input = MachineStartupInput({args.begin(), args.end()});
+  const CommandLine parsed = ParseCommandLine(args, input.working_folder);
   if (parsed.settings_file.empty()) {
     err << "tarnwick: an unattended run needs a settings file: tarnwick SETTINGS.twr -d\n";
     return kExitBadStart;

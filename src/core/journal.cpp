@@ -49,9 +49,11 @@ void SyncFolder(const std::filesystem::path& folder) {
   ::close(fd);
 }
 
-// Creates the journal file under a name no other run uses.
-int CreateJournalFile(const std::filesystem::path& batch_path, std::filesystem::path& path) {
-  const std::string base = batch_path.string() + "." + std::to_string(::getpid());
+// Creates the journal file of the batch `batch_name` in `folder` under a name
+// no other run uses.
+int CreateJournalFile(const std::filesystem::path& folder, const std::filesystem::path& batch_name,
+                      std::filesystem::path& path) {
+  const std::string base = (folder / batch_name).string() + "." + std::to_string(::getpid());
   for (int n = 1; n <= 100; ++n) {
     path = base + (n == 1 ? "" : "-" + std::to_string(n)) + std::string(kSuffix);
     const int fd = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_APPEND | O_CLOEXEC, 0644);
@@ -80,9 +82,11 @@ std::vector<std::filesystem::path> Journals(const std::filesystem::path& folder,
 }  // namespace
 
 std::unique_ptr<RunJournal> RunJournal::Begin(const std::filesystem::path& batch_path,
-                                              const std::string& older_copy, FileStatus* status) {
+                                              const std::string& older_copy, FileStatus* status,
+                                              const std::filesystem::path& folder) {
   std::filesystem::path path;
-  const int fd = CreateJournalFile(batch_path, path);
+  const int fd = CreateJournalFile(folder.empty() ? batch_path.parent_path() : folder,
+                                   batch_path.filename(), path);
   if (fd < 0) {
     if (status != nullptr) *status = FromErrno(-fd);
     return nullptr;

@@ -28,10 +28,12 @@ class RunJournal {
   static constexpr std::chrono::milliseconds kSyncInterval{500};
 
   // Starts the journal of a run that writes `batch_path`; `older_copy` is
-  // the saved copy of the older runs (empty when there is none). Nothing
-  // when the file cannot be made; `status` then says why.
+  // the saved copy of the older runs (empty when there is none). The journal
+  // is made in `folder`, beside the batch when it is empty. Nothing when the
+  // file cannot be made; `status` then says why.
   static std::unique_ptr<RunJournal> Begin(const std::filesystem::path& batch_path,
-                                           const std::string& older_copy, FileStatus* status);
+                                           const std::string& older_copy, FileStatus* status,
+                                           const std::filesystem::path& folder = {});
 
   ~RunJournal();
   RunJournal(const RunJournal&) = delete;

@@ -10,6 +10,7 @@
 #include "core/journal_format.h"
 #include "persist/log_append.h"
 #include "persist/log_options.h"
+#include "persist/log_undo_state.h"
 #include "persist/undo_line.h"
 #include "platform/files.h"
 
@@ -184,7 +185,15 @@ std::vector<JournalRecovery> CompleteInterruptedRuns(
 
 std::vector<JournalRecovery> CompleteInterruptedRunsAtStart(const OptionStore& options,
                                                             const LogUndoState& state) {
-  return CompleteInterruptedRuns(JournalsInFolder(UndoFolderPath(options, state)));
+  const std::string undo_folder = UndoFolderPath(options, state);
+  std::vector<std::filesystem::path> journals = JournalsInFolder(undo_folder);
+  // A run whose undo folder could not take its journal kept it in ours.
+  if (!state.DefaultUndoFolder.empty() && state.DefaultUndoFolder != undo_folder) {
+    for (std::filesystem::path& journal : JournalsInFolder(state.DefaultUndoFolder)) {
+      journals.push_back(std::move(journal));
+    }
+  }
+  return CompleteInterruptedRuns(journals);
 }
 
 }  // namespace tarnwick

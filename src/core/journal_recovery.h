@@ -53,8 +53,8 @@ std::vector<JournalRecovery> CompleteInterruptedRuns(
     const std::vector<std::filesystem::path>& journals);
 
 // At start-up, after CreateDefaultPaths and before the first run: completes
-// the journals left in the undo folder (`UndoFilePath`) by runs that were
-// killed.
+// the journals left in the undo folder (`UndoFilePath`), and in the
+// program's own undo folder, by runs that were killed.
 std::vector<JournalRecovery> CompleteInterruptedRunsAtStart(const OptionStore& options,
                                                             const LogUndoState& state);
 

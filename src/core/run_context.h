@@ -47,8 +47,6 @@ struct RunContext {
   std::size_t selected_count = 0;
   // The journal of the steps; absent in a test run and without undo.
   std::unique_ptr<RunJournal> journal;
-  // The journal was needed but could not be made: no step may be done.
-  bool journal_failed = false;
   // The result list of a test run.
   std::vector<TestResultRow> test_rows;
   // The undo command of the last file, which a skipped file's entry takes

@@ -13,7 +13,6 @@ namespace {
 // The record before a step; without it the step is not done.
 void Announce(RunContext& run, JournalStepKind kind, const std::string& from,
               const std::string& to) {
-  if (run.journal_failed) Raise(FileStatus::Error(vb_error::kPathFileAccessError));
   if (!run.journal) return;
   const FileStatus status = run.journal->RecordStep({kind, from, to});
   if (!status.ok()) Raise(status);

@@ -43,7 +43,8 @@ void ShowCaption(RunContext& run, const FileStep& file) {
                                  "] " + file.name + "  " + run.Text("run.caption_cancel_hint"));
 }
 
-// Whether the new name keeps anything in front of its extension and dot.
+// Whether the new name keeps anything in front of its extension and dot, the
+// extension taken from the whole new path: ".jpg" and "." keep nothing.
 // Kept: the dot is counted even where there is no extension, so a
 // one-letter name without extension fails.
 bool BasePasses(const std::string& new_path, const std::string& new_name) {
@@ -70,8 +71,11 @@ void KeepDates(RunContext& run, FileStep& file, const std::string& path) {
 // Renames, copies or lists the file by the run's mode. False when the step
 // failed (the handler has reported it) and there is nothing to log.
 bool CarryOut(RunContext& run, FileStep& file) {
-  const bool base_ok = BasePasses(file.new_path, file.new_name);
-  if (!base_ok) file.new_name = run.Text("run.filename_empty");
+  const bool base_ok = BasePasses(JoinPath(file.folder, file.new_name), file.new_name);
+  if (!base_ok) {
+    file.new_name = run.Text("run.filename_empty");
+    file.failed = true;  // counted as failed: the file keeps its name
+  }
   file.new_path = JoinPath(file.folder, file.new_name);
   if (run.mode == RunMode::kTest) {
     run.command = "rem";
@@ -117,7 +121,9 @@ void RunFile(RunContext& run, FileStep& file, bool frozen) {
   file.name = list.Text(file.row, file_column::kName);
   file.date = list.Text(file.row, file_column::kDate);
   file.old_path = JoinPath(file.folder, file.name);
-  if (!Guarded(run, file.old_path, "", run.note, [&] {
+  // An error before the file's own step carries no note: the note standing
+  // is the word for the file before.
+  if (!Guarded(run, file.old_path, "", "", [&] {
         ResetCounterForRow(app, run.env.settings, run.env.options, file.folder, file.date);
       })) {
     file.failed = true;
@@ -131,8 +137,7 @@ void RunFile(RunContext& run, FileStep& file, bool frozen) {
   const ProcessFileResult processed =
       ProcessFile(run.Pipeline(), file.new_name, file.row, file.folder);
   if (processed.error) {
-    HandleRunError(run, *processed.error, file.old_path, JoinPath(file.folder, file.new_name),
-                   run.note);
+    HandleRunError(run, *processed.error, file.old_path, JoinPath(file.folder, file.new_name), "");
     file.failed = true;
     CountFile(run, file, false);
     --app.RunFileCount;
@@ -142,13 +147,18 @@ void RunFile(RunContext& run, FileStep& file, bool frozen) {
   bool skipped = file.new_name.empty();
   bool carried = true;
   if (skipped) {
+    run.note = run.Text("run.note_file_skipped");
     KeepDates(run, file, file.old_path);
     --app.RunFileCount;
   } else if (!app.CancelRun) {
     carried = CarryOut(run, file);
     --app.RunFileCount;
   } else {
+    // The run was cancelled at this file (the manual rename's Cancel): it is
+    // left alone, and its entries say so rather than take the word and the
+    // command of the file before.
     skipped = true;
+    file.new_name.clear();
   }
   if (!carried) {
     file.failed = true;
@@ -161,8 +171,11 @@ void RunFile(RunContext& run, FileStep& file, bool frozen) {
   }
   file.new_path = JoinPath(file.folder, file.new_name);
   run.log.WriteLogFile(file.old_path, file.new_path, run.note);
-  // Kept: a skipped file's entry takes the command of the file before it.
-  run.undo.WriteUndoEntry(file.old_path, file.new_path, run.command);
+  // Kept: a skipped file's entry takes the command of the file before it;
+  // "move" names the file twice and takes nothing back. A "del" would delete
+  // the untouched file when the batch runs, so it becomes a comment.
+  run.undo.WriteUndoEntry(file.old_path, file.new_path,
+                          skipped && run.command == "del" ? "rem" : run.command);
   SettleSteps(run);
   CountFile(run, file, skipped);
 }

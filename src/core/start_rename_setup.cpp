@@ -40,17 +40,25 @@ void BuildRandomPool(RunContext& run) {
 }
 
 // The journal of a run that moves or copies, beside its undo batch. Where it
-// cannot be made, the user may switch undo off; otherwise every step of the
-// run fails, since no step is done without its record.
+// cannot be made there, the user may switch undo off, as for any undo write
+// that fails; the run goes on in either case. With undo kept on, the journal
+// lives in the program's own undo folder, where start-up looks for it too;
+// if even that fails, the run goes on without one (logged).
 void BeginJournal(RunContext& run) {
   if (run.mode == RunMode::kTest) return;
   if (run.env.options.GetOption("WriteUndoList", "Options", "1") == "0") return;
+  const std::filesystem::path batch = run.undo.UndoBatchPath();
+  const std::string& older_copy = run.env.log_undo.UndoTemporaryCopy;
   FileStatus status;
-  run.journal =
-      RunJournal::Begin(run.undo.UndoBatchPath(), run.env.log_undo.UndoTemporaryCopy, &status);
+  run.journal = RunJournal::Begin(batch, older_copy, &status);
   if (run.journal) return;
-  OfferToSwitchOff(run.log_env, FailedWriter::kUndo, status, run.undo.UndoBatchPath());
-  run.journal_failed = run.env.options.GetOption("WriteUndoList", "Options", "1") != "0";
+  OfferToSwitchOff(run.log_env, FailedWriter::kUndo, status, batch.string());
+  if (run.env.options.GetOption("WriteUndoList", "Options", "1") == "0") return;
+  const std::string& own_folder = run.env.log_undo.DefaultUndoFolder;
+  if (!own_folder.empty()) run.journal = RunJournal::Begin(batch, older_copy, &status, own_folder);
+  if (!run.journal) {
+    run.log.WriteLogFileTool(run.Text("run.log.no_journal"), status.ToVbError().description());
+  }
 }
 
 }  // namespace

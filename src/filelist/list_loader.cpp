@@ -45,6 +45,7 @@ bool FileListLoader::TestCancel() {
   const bool pressed = context_.interaction.PollCancel() || key_still_down_;
   key_still_down_ = false;
   if (pressed) context_.state.CancelRun = true;
+  if (context_.state.CancelRun) stopped_ = true;
   return context_.state.CancelRun;
 }
 
@@ -88,7 +89,8 @@ void FileListLoader::ReportReadError(const std::string& folder, const FolderRead
           read.error.description);
 }
 
-void FileListLoader::FillListView(FileList& list, const FillRequest& request) {
+bool FileListLoader::FillListView(FileList& list, const FillRequest& request) {
+  stopped_ = false;
   list.Clear();
   list.set_language(context_.messages.language());
   list.set_date_format(vb::LCase(context_.options.GetOption("DateFormat", kOptions, "dd.mm.yyyy")));
@@ -104,6 +106,7 @@ void FileListLoader::FillListView(FileList& list, const FillRequest& request) {
   context_.state.CancelRun = false;
   key_still_down_ = false;
   list.RestoreSort();
+  return stopped_;
 }
 
 void FileListLoader::WalkSubfolders(FileList& list, const std::string& folder,

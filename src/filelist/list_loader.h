@@ -45,8 +45,9 @@ class FileListLoader {
 
   // `FillListView`: the rows of the folder and, if asked, its subfolders.
   // Uses the flags `ShowHiddenFlag` and `ShowSystemFlag` of the state as they
-  // are and the filter `CurrentFilter`.
-  void FillListView(FileList& list, const FillRequest& request);
+  // are and the filter `CurrentFilter`. True when Esc (Ctrl-C on the
+  // command line) stopped the fill: the rows are then those read so far.
+  bool FillListView(FileList& list, const FillRequest& request);
 
   // The items of the extension box after the last fill.
   std::vector<std::string> Extensions() const { return extensions_.Items(); }
@@ -69,6 +70,8 @@ class FileListLoader {
   // A key press lasts: when a folder read stops on Esc, the next test sees
   // the same press again.
   bool key_still_down_ = false;
+  // Esc stopped the fill in hand.
+  bool stopped_ = false;
   // Device and inode of the folders from the top down to the one walked.
   std::vector<std::pair<std::uint64_t, std::uint64_t>> walk_path_;
 };

@@ -33,4 +33,13 @@ std::filesystem::path DataFolder() {
   return XdgFolder("XDG_DATA_HOME", ".local/share") / "Oakhollow" / "Tarnwick";
 }
 
+std::filesystem::path ProgramFilesFolder() {
+  std::error_code error;
+  const std::filesystem::path executable = std::filesystem::read_symlink("/proc/self/exe", error);
+  if (error || !executable.has_parent_path()) return {};
+  const std::filesystem::path beside = executable.parent_path();
+  if (std::filesystem::is_directory(beside / "Media", error)) return beside;
+  return beside.parent_path() / "share" / "tarnwick";
+}
+
 }  // namespace tarnwick

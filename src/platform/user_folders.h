@@ -12,4 +12,10 @@ std::filesystem::path HomeFolder();
 std::filesystem::path ConfigFolder();
 std::filesystem::path DataFolder();
 
+// The folder of the files that come with the program ("Media/notify.wav"):
+// beside the executable where they are (a build tree), otherwise
+// <prefix>/share/tarnwick of an installed executable in <prefix>/bin. Empty
+// when the executable cannot be found.
+std::filesystem::path ProgramFilesFolder();
+
 }  // namespace tarnwick

@@ -41,6 +41,10 @@ constexpr MessageEntry kEntries[] = {
 
     // Run: confirmation.
     {0, "run.start_title", "Start renaming", "Umbenennen starten"},
+    {0, "run.log.no_journal",
+     "No crash journal for this run, an interrupted run cannot be completed in the undo batch",
+     "Kein Absturzprotokoll für diesen Lauf, ein abgebrochener Lauf kann in der "
+     "Rückgängig-Datei nicht ergänzt werden"},
     {0, "run.start_note",
      "Do you really want to rename the selected files, or just want to do a test?",
      "Möchten Sie die ausgewählten Dateien wirklich umbenennen oder nur einen Test durchführen?"},

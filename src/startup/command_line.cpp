@@ -4,20 +4,43 @@
 #include "base/text.h"
 
 namespace tarnwick {
+namespace {
 
-CommandLine ParseCommandLine(std::string_view text, std::string_view working_folder) {
+bool IsBatchSwitch(std::string_view argument) { return EqualsText(argument, "-d"); }
+
+}  // namespace
+
+bool HasBatchSwitch(std::span<const std::string> arguments) {
+  for (const std::string& argument : arguments) {
+    if (IsBatchSwitch(argument)) return true;
+  }
+  return false;
+}
+
+CommandLine ParseCommandLine(std::span<const std::string> arguments,
+                             std::string_view working_folder) {
   CommandLine line;
+  std::string text;
+  bool nt_log_mode = false;
+  for (const std::string& argument : arguments) {
+    if (argument.empty()) continue;
+    line.empty = false;
+    if (IsBatchSwitch(argument)) {
+      line.batch = true;
+    } else if (argument == "NTLogMode") {
+      nt_log_mode = true;
+    } else {
+      if (!text.empty()) text += ' ';
+      text += argument;
+    }
+  }
+  line.nt_log_mode = nt_log_mode && !line.batch;
   if (text.empty()) return line;
-  line.empty = false;
-  const std::string without_switch =
-      vb::Trim(vb::Replace(text, "-d", "", 1, -1, vb::Compare::kText));
-  if (EqualsText(vb::Trim(ExtensionName(without_switch)), "twr")) {
-    line.settings_file = AbsolutePathName(without_switch, working_folder);
+  if (EqualsText(vb::Trim(ExtensionName(text)), "twr")) {
+    line.settings_file = AbsolutePathName(text, working_folder);
   } else {
     line.folder = AbsolutePathName(text, working_folder);
   }
-  line.batch = ContainsText(text, "-d");
-  line.nt_log_mode = !line.batch && text.find("NTLogMode") != std::string_view::npos;
   return line;
 }
 

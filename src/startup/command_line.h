@@ -1,28 +1,33 @@
 #pragma once
 
+#include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tarnwick {
 
-// What the process's command line asks of start-up. The line is the raw text
-// after the program's name, used as it stands: quotes are not removed, and
-// there is no parsing beyond these tests.
-//   - The text with every "-d" removed (any case), trimmed, whose extension is
-//     "twr" (any case): that settings file, made absolute, is applied.
-//   - Otherwise the whole text, "-d" included, is a folder to show.
-//   - "-d" anywhere (any case): the unattended run.
-//   - Otherwise "NTLogMode" (exact case): the stored folder is shown.
-// Kept: "-d" is removed wherever it stands, inside a path as well
-// ("/tmp/my-docs/a.twr" names "/tmp/myocs/a.twr").
+// What the process's command line asks of start-up. On Linux the command
+// line is a list of arguments, so a switch is a switch only as an argument
+// of its own; a folder or file name that merely contains one ("my-docs",
+// "2024-dec") is a name like any other.
+//   - "-d" (any case): the unattended run.
+//   - "NTLogMode" (exact case), without "-d": the stored folder is shown.
+//   - The other arguments, joined by blanks, are the text: when its
+//     extension is "twr" (any case), that settings file, made absolute, is
+//     applied; otherwise it is a folder to show.
 struct CommandLine {
   bool empty = true;
   std::string settings_file;  // absolute; empty when the line names none
-  std::string folder;         // absolute; empty when a settings file was named
+  std::string folder;         // absolute; empty when a settings file or no name was given
   bool batch = false;
   bool nt_log_mode = false;
 };
 
-CommandLine ParseCommandLine(std::string_view text, std::string_view working_folder);
+CommandLine ParseCommandLine(std::span<const std::string> arguments,
+                             std::string_view working_folder);
+
+// Whether the arguments hold the switch "-d" (any case) as an argument of its own.
+bool HasBatchSwitch(std::span<const std::string> arguments);
 
 }  // namespace tarnwick

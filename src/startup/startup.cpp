@@ -54,6 +54,12 @@ class Sequence {
   void PrepareButtons(bool enable);
   // Handles an error of a step; true when start-up goes on.
   bool Handle(const VbError& error);
+  // Runs one statement under the handler, which resumes at the statement
+  // after it; false when the handler ended start-up.
+  template <typename Statement>
+  bool Resume(Statement statement);
+  // Gives the folder browser and `CurrentPath` a folder; raises 76 when it is gone.
+  void GiveFolder(const std::string& folder);
 
   void PlaceWindow();
   void OpenSplash();
@@ -87,6 +93,7 @@ class Sequence {
   double start_timer_ = 0;
   std::string path_;
   bool done_ = false;
+  bool stopped_ = false;  // the handler ended start-up
 };
 
 int PositionOption(const OptionStore& options, std::string_view key) {
@@ -118,16 +125,29 @@ StartupResult Sequence::Run() {
       &Sequence::Finish,
       &Sequence::LogStart,
   };
-  result_.command_line = ParseCommandLine(input_.command_line, input_.working_folder);
+  result_.command_line = ParseCommandLine(input_.arguments, input_.working_folder);
   for (const Step step : kSteps) {
-    try {
-      (this->*step)();
-    } catch (const VbError& error) {
-      if (!Handle(error)) return result_;
-    }
-    if (done_) break;
+    if (!Resume([&] { (this->*step)(); })) break;
+    if (done_ || stopped_) break;
   }
   return result_;
+}
+
+template <typename Statement>
+bool Sequence::Resume(Statement statement) {
+  try {
+    statement();
+    return true;
+  } catch (const VbError& error) {
+    if (Handle(error)) return true;
+    stopped_ = true;
+    return false;
+  }
+}
+
+void Sequence::GiveFolder(const std::string& folder) {
+  if (!FolderExists(folder)) throw VbError(vb_error::kPathNotFound, "Path not found");
+  env_.app.CurrentPath = folder;
 }
 
 bool Sequence::Handle(const VbError& error) {
@@ -185,6 +205,7 @@ void Sequence::OpenSplash() {
 }
 
 void Sequence::MakeFolders() {
+  env_.state.ProgramFolder = input_.program_folder;
   CreateDefaultPaths(env_, log_, input_.data_base_folder, input_.data_fallback_folder);
   result_.journals = CompleteInterruptedRunsAtStart(env_.options, env_.state);
   for (const JournalRecovery& recovery : result_.journals) {
@@ -225,7 +246,10 @@ void Sequence::RecoverCrash() { result_.options_reset = RecoverFromFailedStart(e
 void Sequence::ChooseFolder() {
   path_ = ReadOption(env_.options, "Path", input_.default_root);
   Status(Text(kReadingMessage) + " " + CompactPath(path_, kCompactWidth));
-  if (!result_.command_line.empty) return;
+  // A settings file brings its own folder; one that cannot be applied, or
+  // has none, leaves the last folder.
+  const CommandLine& line = result_.command_line;
+  if (!line.empty && line.settings_file.empty()) return;
   env_.app.CurrentPath = FolderExists(path_) ? path_ : input_.default_root;
 }
 
@@ -250,13 +274,15 @@ void Sequence::ObeyCommandLine() {
   if (!line.settings_file.empty()) {
     result_.settings_load = LoadDefaultSettings(env_, line.settings_file, settings_);
     result_.settings_failed = result_.settings_load.outcome != LoadSettingsResult::Outcome::kLoaded;
-    if (!result_.settings_failed) host_.FillListFiles();
-  } else {
+    // The window shows the last folder when the file could not be applied;
+    // an unattended run has no use for it.
+    if (!result_.settings_failed || !line.batch) host_.FillListFiles();
+  } else if (!line.folder.empty()) {
     Status(line.folder);
     PrepareButtons(false);
-    env_.app.CurrentPath = line.folder;
+    // A folder that is gone gives way to the root, and the fill goes on.
+    if (!Resume([&] { GiveFolder(line.folder); })) return;
     PrepareButtons(false);
-    if (!FolderExists(line.folder)) throw VbError(vb_error::kPathNotFound, "Path not found");
     host_.FillListFiles();
   }
   if (line.batch) {
@@ -274,7 +300,9 @@ void Sequence::ObeyCommandLine() {
     return;
   }
   if (line.nt_log_mode) {
-    env_.app.CurrentPath = ReadOption(env_.options, "Path", input_.default_root);
+    if (!Resume([&] { GiveFolder(ReadOption(env_.options, "Path", input_.default_root)); })) {
+      return;
+    }
     host_.FillListFiles();
     PrepareButtons(true);
   }

@@ -17,7 +17,7 @@ struct RenameSettings;
 // What start-up needs besides the environment: the command line and the
 // facts of the machine, given so tests can fix them.
 struct StartupInput {
-  std::string command_line;  // raw text after the program's name
+  std::vector<std::string> arguments;  // the arguments after the program's name
   std::string working_folder;
   // Where CreateDefaultPaths makes the program's folders.
   std::string data_base_folder;
@@ -27,10 +27,12 @@ struct StartupInput {
   std::string system_short_date;
   // The folder shown when none is known (the home folder).
   std::string default_root;
+  // The folder of the files that come with the program (the finish sound).
+  std::string program_folder;
 };
 
 // StartupInput with the machine's own facts.
-StartupInput MachineStartupInput(std::string command_line);
+StartupInput MachineStartupInput(std::vector<std::string> arguments);
 
 struct StartupResult {
   enum class Outcome {
@@ -62,7 +64,9 @@ struct StartupResult {
 //
 // One handler covers the sequence: any VbError is logged ("!N: text", and
 // "!Could not start Tarnwick!" while `ResetPath` is "1"); 91 leaves start-up
-// silently; 76 shows the default root and goes on with the next step; 68
+// silently; 76 (a folder of the command line, or the stored folder of
+// "NTLogMode", is gone) shows the default root and goes on with the statement
+// after the failed one, so the list is filled and the controls work; 68
 // tells that a drive is locked and goes on; anything else shows the error and
 // ends start-up (the process then ends, and the next start resets the
 // options). In an unattended run the rest of start-up is skipped after the

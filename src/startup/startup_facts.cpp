@@ -9,6 +9,7 @@
 #include "persist/default_paths.h"
 #include "persist/option_store.h"
 #include "platform/system_info.h"
+#include "platform/user_folders.h"
 #include "startup/startup.h"
 
 namespace tarnwick {
@@ -60,15 +61,16 @@ std::string SystemShortDate() {
 
 }  // namespace
 
-StartupInput MachineStartupInput(std::string command_line) {
+StartupInput MachineStartupInput(std::vector<std::string> arguments) {
   StartupInput input;
-  input.command_line = std::move(command_line);
+  input.arguments = std::move(arguments);
   std::error_code error;
   input.working_folder = std::filesystem::current_path(error).string();
   input.data_base_folder = UserDataBaseFolder();
   input.data_fallback_folder = UserDataFallbackFolder();
   input.system_short_date = SystemShortDate();
   input.default_root = DefaultRootFolder().string();
+  input.program_folder = ProgramFilesFolder().string();
   return input;
 }
 

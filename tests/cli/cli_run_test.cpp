@@ -123,5 +123,28 @@ TEST_F(CliRunTest, ExitCodesForBadArgumentsStoppedRunsAndFailedFiles) {
   EXPECT_THAT(cli.Run({"run", "--help"}).out, HasSubstr("Exit status"));
 }
 
+
+// An empty complete name would leave only the extension: nothing is written.
+TEST_F(CliRunTest, AnEmptyCompleteNameIsRefusedAndTheFilesStay) {
+  AddFile("photo.jpg");
+  AddFile("notes.txt");
+  const std::vector<std::string> empty_name = {"--set", "chkCompleteName=1", "--set",
+                                               "txtCompleteName="};
+  std::vector<std::string> args = {"preview"};
+  args.insert(args.end(), empty_name.begin(), empty_name.end());
+  CliResult result = Run(args);
+  const std::string dir = folder().string();
+  EXPECT_EQ(result.out, "notes.txt\t<Could not be written, filename is empty>\t" + dir +
+                            "\nphoto.jpg\t<Could not be written, filename is empty>\t" + dir +
+                            "\n");
+  EXPECT_EQ(result.exit_code, 1) << result.err;
+  args = {"run", "--yes"};
+  args.insert(args.end(), empty_name.begin(), empty_name.end());
+  result = Run(args);
+  EXPECT_EQ(result.exit_code, 1) << result.err;
+  EXPECT_THAT(result.err, HasSubstr("2 failed"));
+  EXPECT_EQ(Names(), (std::vector<std::string>{"notes.txt", "photo.jpg"}));
+}
+
 }  // namespace
 }  // namespace tarnwick

@@ -8,6 +8,7 @@
 
 #include <fstream>
 
+#include "core/journal.h"
 #include "run_test_fixture.h"
 
 namespace tarnwick::testing {
@@ -355,6 +356,105 @@ TEST_F(RunTest, KeepOldFiledateGivesTheRenamedFileTheDateItHadBefore) {
   EXPECT_EQ(Run().done, 1);
   ASSERT_EQ(::stat(FilePath("c_p_a.txt").c_str(), &info), 0);
   EXPECT_EQ(info.st_mtime, 1000000000);
+}
+
+
+TEST_F(RunTest, AnUndoFolderThatCannotTakeTheJournalOnlyAsksAndTheRunGoesOn) {
+  AddFile("a.txt");
+  AddFile("b.txt");
+  SetOption("UndoFilePath", (dir.path() / "missing").string());
+  Prefix("p_");
+  interaction.SetDefault(QuestionKind::kMessageBox, Answer::kNo);  // keep undo on
+  const RenameRunResult result = Run();
+  EXPECT_EQ(result.done, 2);
+  EXPECT_EQ(result.failed, 0);
+  EXPECT_EQ(Names(), (std::vector<std::string>{"p_a.txt", "p_b.txt"}));
+  EXPECT_TRUE(WasAsked("Logfile"));
+  EXPECT_NE(Option("WriteUndoList"), "0");
+  // The journal lived in the program's own undo folder, and a clean end removed it.
+  EXPECT_TRUE(JournalsInFolder(dir.path() / "undo").empty());
+
+  // Yes switches undo off, and the run goes on as well.
+  list.Clear();
+  Prefix("q_");
+  interaction.SetDefault(QuestionKind::kMessageBox, Answer::kYes);
+  EXPECT_EQ(Run().done, 2);
+  EXPECT_EQ(Option("WriteUndoList"), "0");
+  EXPECT_EQ(Names(), (std::vector<std::string>{"q_p_a.txt", "q_p_b.txt"}));
+}
+
+// A new name with nothing in front of its extension is refused in every mode;
+// the file keeps its name, and it counts as failed.
+TEST_F(RunTest, ANameWithNothingBeforeItsExtensionIsNeverWritten) {
+  AddFile("photo.jpg", "p");
+  AddFile("README", "r");
+  settings.chkCompleteName = 1;
+  settings.txtCompleteName = "";  // photo.jpg -> ".jpg", README -> "" (skipped)
+  RenameRunResult result = Run();
+  EXPECT_EQ(Names(), (std::vector<std::string>{"README", "photo.jpg"}));
+  EXPECT_EQ(result.done, 0);
+  EXPECT_EQ(result.failed, 1);
+  EXPECT_EQ(result.skipped, 1);
+  EXPECT_NE(Log().find(LogLine(FilePath("photo.jpg"),
+                               FilePath("<Could not be written, filename is empty>"), "Renamed")),
+            std::string::npos);
+
+  settings.txtCompleteName = ".";  // README -> "."; photo.jpg -> "..jpg" keeps a "."
+  list.Clear();
+  result = Run();
+  EXPECT_EQ(Names(), (std::vector<std::string>{"..jpg", "README"}));
+  EXPECT_EQ(result.done, 1);
+  EXPECT_EQ(result.failed, 1);
+
+  // A copy and a test are refused alike.
+  std::filesystem::rename(files() / "..jpg", files() / "photo.jpg");
+  settings.txtCompleteName = "";
+  settings.optCopyRename = kModeCopy;
+  list.Clear();
+  result = Run();
+  EXPECT_EQ(Names(), (std::vector<std::string>{"README", "photo.jpg"}));
+  EXPECT_EQ(result.failed, 1);
+  settings.optCopyRename = kModeTest;
+  interaction.SetDefault(QuestionKind::kMessageBox, Answer::kYes);  // show the list
+  list.Clear();
+  result = Run();
+  ASSERT_EQ(interaction.test_results().size(), 1u);  // README is skipped before the list
+  EXPECT_EQ(interaction.test_results()[0].present_name, "photo.jpg");
+  EXPECT_EQ(interaction.test_results()[0].new_name, "<Could not be written, filename is empty>");
+}
+
+// An error before a file's own step is not logged with the word of the file
+// before it; a skipped file in a copy run never gets a "del" line, which
+// would delete the untouched file when the batch runs.
+TEST_F(RunTest, EntriesOfFailedAndSkippedFilesNeverSayWhatHappenedToAnother) {
+  AddFile("a.txt");
+  AddFile("b.txt");
+  settings.chkNumbers = 1;
+  settings.txtStartNumber = "2147483646";  // the second file's number overflows
+  Prefix("p_");
+  interaction.SetDefault(QuestionKind::kMessageBox, Answer::kYes);
+  RenameRunResult result = Run();
+  EXPECT_EQ(result.done, 1);
+  EXPECT_EQ(result.failed, 1);
+  const std::string log = Log();
+  const std::size_t error = log.find("6: Overflow");
+  ASSERT_NE(error, std::string::npos) << log;
+  EXPECT_EQ(log.substr(error, log.find('\n', error) - error).find("Renamed"), std::string::npos)
+      << log;
+
+  for (const std::string& name : Names()) std::filesystem::remove(files() / name);
+  AddFile("a.txt", "a");
+  AddFile("b.txt", "b");
+  AddFile("c_b.txt", "taken");
+  settings = RenameSettings{};
+  Prefix("c_");
+  settings.optCopyRename = kModeCopy;
+  interaction.Then(FileExistsAnswer{FileExistsChoice::kSkip, "", false});
+  result = Run();
+  EXPECT_EQ(result.done, 2);  // c_a.txt and c_c_b.txt
+  EXPECT_EQ(result.skipped, 1);
+  EXPECT_EQ(Batch().find("del \"" + FilePath("b.txt") + "\""), std::string::npos) << Batch();
+  EXPECT_EQ(dir.ReadFile("files/b.txt"), "b");
 }
 
 }  // namespace

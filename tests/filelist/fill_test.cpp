@@ -260,7 +260,7 @@ TEST_F(FillTest, EscDuringTheRowsLeavesAPartialListAndALogLine) {
   Write("sub/s.txt");
   // Six entries and a folder are read (7 polls), then rows are tested.
   ui_.cancel_at_polls = {7 + 3};
-  Fill(true);
+  EXPECT_TRUE(loader_.FillListView(list_, {root().string(), true})) << "says it was stopped";
   EXPECT_THAT(Names(), ElementsAre("f0", "f1", "f2"));
   EXPECT_THAT(log_.lines, ElementsAre("ViewFolder | !User terminated filling file list with ESC"));
   EXPECT_FALSE(state_.CancelRun);
@@ -269,12 +269,14 @@ TEST_F(FillTest, EscDuringTheRowsLeavesAPartialListAndALogLine) {
 TEST_F(FillTest, EscDuringTheReadKeepsWhatWasReadAndStillLogs) {
   for (int i = 0; i < 6; ++i) Write("f" + std::to_string(i));
   ui_.cancel_at_polls = {2};
-  Fill();
+  EXPECT_TRUE(loader_.FillListView(list_, {root().string(), false})) << "says it was stopped";
   // Two entries were read, in the folder's own order; the press ends the rows
   // after the first.
   EXPECT_EQ(list_.size(), 1u);
   EXPECT_EQ(log_.lines.size(), 1u);
   EXPECT_FALSE(state_.CancelRun);
+  ui_.cancel_at_polls = {};
+  EXPECT_FALSE(loader_.FillListView(list_, {root().string(), false})) << "a whole fill";
 }
 
 TEST_F(FillTest, StatusAndProgressFollowTheRecords) {

@@ -17,7 +17,12 @@
 #include <QTest>
 #include <QTimer>
 #include <QTreeView>
+#include <sys/stat.h>
+
+#include <ctime>
+#include <cstdlib>
 #include <filesystem>
+#include <fstream>
 
 #include "core/action_order.h"
 #include "core/settings_file.h"
@@ -197,7 +202,7 @@ TEST_F(MainWindowTest, AStartWithASettingsFileShowsItsControls) {
   MainWindow started(options, MessageTable::Get(Language::kEnglish), &interaction);
   interaction.SetDefault(QuestionKind::kMessageBox, Answer::kOk);
   const StartupResult result =
-      RunStartup(started.env(), started.settings(), started.host(), MachineStartupInput(file));
+      RunStartup(started.env(), started.settings(), started.host(), MachineStartupInput({file}));
   ASSERT_EQ(result.outcome, StartupResult::Outcome::kReady) << result.error;
   EXPECT_TRUE(started.findChild<QCheckBox*>("chkPrefix")->isChecked());
   EXPECT_EQ(started.findChild<QLineEdit*>("txtPrefix")->text(), "Trip_");
@@ -209,6 +214,74 @@ TEST_F(MainWindowTest, AStartWithASettingsFileShowsItsControls) {
   EXPECT_TRUE(std::filesystem::exists(gui::ProgramDesktopFilePath()));
   EXPECT_TRUE(std::filesystem::exists(gui::SettingsMimeTypePath()));
   EXPECT_EQ(options.GetOption("SetFileAssoc", "Options", "0"), "1");
+}
+
+TEST_F(MainWindowTest, AStartWithAFolderThatIsGoneOpensAUsableWindowOnTheHomeFolder) {
+  MainWindow started(options, MessageTable::Get(Language::kEnglish), &interaction);
+  interaction.SetDefault(QuestionKind::kMessageBox, Answer::kOk);
+  StartupInput input = MachineStartupInput({(dir.path() / "no/such/folder").string()});
+  input.default_root = dir.str();  // stands in for the home folder
+  const StartupResult result = RunStartup(started.env(), started.settings(), started.host(), input);
+  ASSERT_EQ(result.outcome, StartupResult::Outcome::kReady) << result.error;
+  EXPECT_EQ(result.error_number, 76);
+  EXPECT_EQ(started.app().CurrentPath, dir.str());
+  EXPECT_EQ(started.list().size(), 3u);
+  EXPECT_TRUE(started.findChild<QPushButton*>("cmdStart")->isEnabled());
+  EXPECT_TRUE(started.findChild<QCheckBox*>("chkPrefix")->isEnabled());
+}
+
+TEST_F(MainWindowTest, ARunFromTheWindowGivesAJpegItsExifDateWhenTheOptionSaysSo) {
+  std::filesystem::copy_file(std::filesystem::path(TW_FIXTURE_DIR) / "exif/full_intel.jpg",
+                             dir.path() / "photo.jpg");
+  options.SaveOption("UseEXIFDate", "Options", "1");
+  window->ShowFolder(QString::fromStdString(dir.str()));
+  Tick("chkPrefix");
+  Type("txtPrefix", "p_");
+  window->SelectAll();
+  interaction.Then(StartRenamingChoice::kRename);
+  interaction.SetDefault(QuestionKind::kMessageBox, Answer::kOk);
+  QTest::mouseClick(window->start_button(), Qt::LeftButton);
+  ASSERT_TRUE(Exists("p_photo.jpg"));
+  // DateTimeOriginal of the picture is 2004:04:12 11:38:00, local time.
+  struct stat info {};
+  ASSERT_EQ(::stat((dir.path() / "p_photo.jpg").c_str(), &info), 0);
+  std::tm taken{};
+  taken.tm_year = 2004 - 1900;
+  taken.tm_mon = 3;
+  taken.tm_mday = 12;
+  taken.tm_hour = 11;
+  taken.tm_min = 38;
+  taken.tm_isdst = -1;
+  EXPECT_EQ(info.st_mtime, std::mktime(&taken));
+  // A text file is left as it was.
+  ASSERT_EQ(::stat((dir.path() / "p_a.txt").c_str(), &info), 0);
+  EXPECT_GT(info.st_mtime, std::mktime(&taken));
+}
+
+TEST_F(MainWindowTest, TheFinishSoundByDefaultIsTheOneBuiltBesideTheProgram) {
+  const char* binary_dir = std::getenv("TW_BINARY_DIR");
+  ASSERT_NE(binary_dir, nullptr);
+  MainWindow started(options, MessageTable::Get(Language::kEnglish), &interaction);
+  interaction.SetDefault(QuestionKind::kMessageBox, Answer::kOk);
+  StartupInput input = MachineStartupInput({dir.str()});
+  // The window's own executable, not this test's, sits beside the sound.
+  input.program_folder = (std::filesystem::path(binary_dir) / "app/gui").string();
+  ASSERT_EQ(RunStartup(started.env(), started.settings(), started.host(), input).outcome,
+            StartupResult::Outcome::kReady);
+  options.SaveOption("ReadySound", "Options", "1");
+  started.settings().chkPrefix = 1;
+  started.settings().txtPrefix = "p_";
+  started.SelectAll();
+  interaction.Then(StartRenamingChoice::kRename);
+  started.StartRenaming();
+  ASSERT_EQ(interaction.waves_played().size(), 1u);
+  const std::string sound = interaction.waves_played()[0];
+  EXPECT_EQ(sound, input.program_folder + "/Media/notify.wav");
+  std::ifstream file(sound, std::ios::binary);
+  std::string head(12, '\0');
+  ASSERT_TRUE(file.read(head.data(), 12)) << sound;
+  EXPECT_EQ(head.substr(0, 4), "RIFF");
+  EXPECT_EQ(head.substr(8, 4), "WAVE");
 }
 
 TEST_F(MainWindowTest, TheOrderLabelNamesTheTickedActionsInTheirOrder) {

@@ -52,6 +52,24 @@ TEST(IniDocumentTest, HandWrittenEntries) {
   EXPECT_EQ(document.Entries("Options").size(), 14u);
 }
 
+// A blank or tab at either end of a key or value is data: written, then read
+// back by a new parse of the text, as the next start reads it, it is kept
+// (around a plain hand-written entry the same blanks are layout, see above).
+TEST(IniDocumentTest, BlanksAndTabsAtTheEndsOfKeysAndValuesSurviveAWriteAndARead) {
+  const std::vector<std::string> decoded = {" lead", "trail ", "  both  ", "\tlead",
+                                            "trail\t", "\t mixed \t", " ", "\t"};
+  IniDocument written;
+  for (std::size_t i = 0; i < decoded.size(); ++i) {
+    ASSERT_TRUE(written.Set("Options", "Value" + std::to_string(i), decoded[i]));
+    ASSERT_TRUE(written.Set("Options", decoded[i], "key " + std::to_string(i)));
+  }
+  const IniDocument read = IniDocument::Parse(written.Serialize());
+  for (std::size_t i = 0; i < decoded.size(); ++i) {
+    EXPECT_EQ(ValueOf(read, "Options", "Value" + std::to_string(i)), decoded[i]) << i;
+    EXPECT_EQ(ValueOf(read, "Options", decoded[i]), "key " + std::to_string(i)) << i;
+  }
+}
+
 TEST(IniDocumentTest, HandWrittenSections) {
   const IniDocument document = IniDocument::Parse(
       "orphan=before any section\n"

@@ -64,9 +64,10 @@ class StartupTest : public ::testing::Test {
     input_.data_fallback_folder = (dir_.path() / "home").string();
     input_.system_short_date = "m/d/yyyy";
     input_.default_root = (dir_.path() / "home").string();
+    input_.program_folder = "/opt/tarnwick-test/share/tarnwick";
   }
-  StartupResult Start(const std::string& command_line = "") {
-    input_.command_line = command_line;
+  StartupResult Start(std::vector<std::string> arguments = {}) {
+    input_.arguments = std::move(arguments);
     host_.calls.clear();
     return RunStartup(env_, settings_, host_, input_);
   }
@@ -106,6 +107,7 @@ TEST_F(StartupTest, PlainStartRunsTheStepsInOrder) {
   EXPECT_EQ(Option("ResetPath"), "0");
   EXPECT_FALSE(app_.LoadingFlag);
   EXPECT_TRUE(std::filesystem::exists(dir_.path() / "data/Oakhollow/Tarnwick/Undo Files"));
+  EXPECT_EQ(state_.ProgramFolder, input_.program_folder) << "where the finish sound is found";
   EXPECT_TRUE(ask_.asked().empty());
 }
 
@@ -147,7 +149,7 @@ TEST_F(StartupTest, SettingsFileWithSwitchRunsTheBatchAndSkipsTheRest) {
   ASSERT_EQ(SaveSettingsTo(env_, settings_, (dir_.path() / "job.twr").string(), true).outcome,
             SaveSettingsResult::Outcome::kSaved);
   settings_ = RenameSettings{};
-  const StartupResult result = Start("job.twr -D");
+  const StartupResult result = Start({"job.twr", "-D"});
   EXPECT_EQ(result.outcome, StartupResult::Outcome::kBatchDone);
   EXPECT_EQ(result.batch.done, 3);
   EXPECT_EQ(settings_.chkPrefix, 1);
@@ -159,24 +161,71 @@ TEST_F(StartupTest, SettingsFileWithSwitchRunsTheBatchAndSkipsTheRest) {
 
   // Nor does a file whose folder has gone: the list would show the root.
   std::filesystem::remove_all(files);
-  const StartupResult gone = Start("job.twr -d");
+  const StartupResult gone = Start({"job.twr", "-d"});
   EXPECT_TRUE(gone.settings_load.folder_gone);
   EXPECT_FALSE(gone.batch.ran);
   EXPECT_EQ(app_.CurrentPath, "/");
 
   // A file that cannot be applied starts no run.
-  const StartupResult missing = Start("missing.twr -d");
+  const StartupResult missing = Start({"missing.twr", "-d"});
   EXPECT_TRUE(missing.settings_failed);
   EXPECT_FALSE(missing.batch.ran);
   EXPECT_EQ(Option("ResetPath"), "0");
 }
 
-TEST_F(StartupTest, AFolderThatIsGoneFallsBackToTheRootAndGoesOn) {
-  const StartupResult result = Start("/no/such/folder");
+TEST_F(StartupTest, AFolderThatIsGoneFallsBackToTheRootAndGoesOnWithAFilledList) {
+  options_.SaveOption("LogOnlyRename", "Options", "0");
+  const StartupResult result = Start({"/no/such/folder"});
   EXPECT_EQ(result.outcome, StartupResult::Outcome::kReady);
   EXPECT_EQ(app_.CurrentPath, input_.default_root);
   EXPECT_EQ(result.error_number, 76);
+  const std::vector<std::string> expected = {"place 200 200", "fill " + input_.default_root,
+                                             "associate", "show", "watch"};
+  EXPECT_EQ(host_.calls, expected);
   EXPECT_EQ(Option("ResetPath"), "0");
+  EXPECT_NE(testing::ReadWholeFile(dir_.path() / "data/Oakhollow/Tarnwick/Log Files/Tarnwick.log")
+                .find("!76: Path not found"),
+            std::string::npos)
+      << "the handler logs the error";
+}
+
+TEST_F(StartupTest, NTLogModeShowsAndFillsTheStoredFolder) {
+  options_.SaveOption("LogOnlyRename", "Options", "0");
+  const std::string stored = (dir_.path() / "stored").string();
+  std::filesystem::create_directories(stored);
+  options_.SaveOption("Path", "Options", stored);
+  EXPECT_EQ(Start({"NTLogMode"}).outcome, StartupResult::Outcome::kReady);
+  EXPECT_EQ(app_.CurrentPath, stored);
+  EXPECT_EQ(host_.calls[1], "fill " + stored);
+  EXPECT_TRUE(ask_.controls_enabled());
+
+  // A folder before the switch is shown first; the stored one wins.
+  const std::string other = (dir_.path() / "other").string();
+  std::filesystem::create_directories(other);
+  Start({other, "NTLogMode"});
+  EXPECT_EQ(app_.CurrentPath, stored);
+  EXPECT_EQ(host_.calls[1], "fill " + other);
+  EXPECT_EQ(host_.calls[2], "fill " + stored);
+
+  // The stored folder is gone: the root, filled.
+  std::filesystem::remove(stored);
+  const StartupResult gone = Start({"NTLogMode"});
+  EXPECT_EQ(gone.outcome, StartupResult::Outcome::kReady);
+  EXPECT_EQ(gone.error_number, 76);
+  EXPECT_EQ(app_.CurrentPath, input_.default_root);
+  EXPECT_EQ(host_.calls[1], "fill " + input_.default_root);
+}
+
+TEST_F(StartupTest, AFolderWhoseNameHoldsTheSwitchIsAFolder) {
+  for (const char* name : {"my-docs", "2024-Dec", "a -d b"}) {
+    const std::string folder = (dir_.path() / name).string();
+    std::filesystem::create_directories(folder);
+    const StartupResult result = Start({folder});
+    EXPECT_EQ(result.outcome, StartupResult::Outcome::kReady) << name;
+    EXPECT_FALSE(result.command_line.batch) << name;
+    EXPECT_EQ(app_.CurrentPath, folder);
+    EXPECT_EQ(host_.calls[1], "fill " + folder);
+  }
 }
 
 TEST_F(StartupTest, AJournalLeftByAKilledRunIsCompletedAtStart) {
@@ -192,18 +241,35 @@ TEST_F(StartupTest, AJournalLeftByAKilledRunIsCompletedAtStart) {
   EXPECT_TRUE(JournalsInFolder(undo).empty());
 }
 
-TEST(CommandLine, TheTableOfTests) {
-  CommandLine line = ParseCommandLine("a.twr -d", "/w");
+CommandLine Parse(std::vector<std::string> arguments) { return ParseCommandLine(arguments, "/w"); }
+
+TEST(CommandLine, SwitchesAreArgumentsOfTheirOwn) {
+  CommandLine line = Parse({"a.twr", "-d"});
   EXPECT_EQ(line.settings_file, "/w/a.twr");
   EXPECT_TRUE(line.batch);
-  line = ParseCommandLine("/x/my-docs/a.twr", "/w");
-  EXPECT_EQ(line.settings_file, "/x/myocs/a.twr") << "every -d goes, as it always has";
-  EXPECT_TRUE(line.batch) << "and counts as the switch";
-  line = ParseCommandLine("/x/folder NTLogMode", "/w");
-  EXPECT_EQ(line.folder, "/x/folder NTLogMode");
+  EXPECT_TRUE(Parse({"-D", "a.TWR"}).batch);
+  line = Parse({"/x/my-docs/a.twr"});
+  EXPECT_EQ(line.settings_file, "/x/my-docs/a.twr");
+  EXPECT_FALSE(line.batch);
+  line = Parse({"2024-dec"});
+  EXPECT_EQ(line.folder, "/w/2024-dec");
+  EXPECT_FALSE(line.batch);
+  EXPECT_FALSE(HasBatchSwitch(std::vector<std::string>{"/home/u/my-docs", "x-d"}));
+  EXPECT_TRUE(HasBatchSwitch(std::vector<std::string>{"job.twr", "-D"}));
+  // A name of several arguments is joined by blanks.
+  EXPECT_EQ(Parse({"/x/my", "photos"}).folder, "/x/my photos");
+  line = Parse({"/x/folder", "NTLogMode"});
+  EXPECT_EQ(line.folder, "/x/folder");
   EXPECT_TRUE(line.nt_log_mode);
-  EXPECT_FALSE(ParseCommandLine("/x ntlogmode", "/w").nt_log_mode);
-  EXPECT_TRUE(ParseCommandLine("", "/w").empty);
+  line = Parse({"NTLogMode"});
+  EXPECT_FALSE(line.empty);
+  EXPECT_TRUE(line.folder.empty());
+  EXPECT_TRUE(line.nt_log_mode);
+  EXPECT_FALSE(Parse({"/x", "ntlogmode"}).nt_log_mode);
+  EXPECT_EQ(Parse({"/x", "ntlogmode"}).folder, "/x ntlogmode");
+  EXPECT_FALSE(Parse({"a.twr", "-d", "NTLogMode"}).nt_log_mode);
+  EXPECT_TRUE(Parse({}).empty);
+  EXPECT_TRUE(Parse({""}).empty);
 }
 
 TEST_F(StartupTest, ClosingStoresThePlaceAndAsksAboutChanges) {
