@@ -18,12 +18,14 @@ extern const Command kTagsCommand;
 extern const Command kExifCommand;
 extern const Command kWmaCommand;
 extern const Command kReportCommand;
+extern const Command kPlaylistCommand;
 
 std::span<const Command> AllCommands() {
   static const std::array kCommands = {
       kOptionsCommand, kExpandCommand,  kCatalogueCommand, kListCommand,
       kRunCommand,     kPreviewCommand, kUndoCommand,      kSettingsCommand,
       kTagsCommand,    kExifCommand,    kWmaCommand,       kReportCommand,
+      kPlaylistCommand,
   };
   return kCommands;
 }

@@ -2,17 +2,33 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QFileInfo>
 #include <QPixmap>
 #include <QTableView>
 #include <chrono>
 
 #include "dialog_screenshot.h"
+#include "base/path_text.h"
 #include "main_window.h"
+#include "playlist_dialog.h"
 #include "persist/option_store.h"
 #include "qt_text.h"
 #include "startup/startup.h"
 
 namespace tarnwick::gui {
+namespace {
+
+// The playlist file a command line of one argument names, made absolute;
+// empty for anything else.
+std::string PlaylistArgument(std::span<const std::string> args) {
+  if (args.size() != 1 || !IsPlaylistName(args[0])) return {};
+  const QFileInfo file(Q(args[0]));
+  if (!file.isFile()) return {};
+  return S(file.absoluteFilePath());
+}
+
+}  // namespace
+
 // Start-up of the window with `arguments` as the command line. False when
 // start-up ended the process.
 bool StartWindow(MainWindow& window, std::vector<std::string> arguments, std::ostream& err) {
@@ -54,8 +70,14 @@ int RunDesktop(int& argc, char** argv, std::span<const std::string> args, std::o
   QApplication::setOrganizationName("Oakhollow");
   OptionStore options = OptionStore::ForCurrentUser();
   MainWindow window(options, MessageTable::Get(ChosenLanguage(options)));
-  if (!StartWindow(window, {args.begin(), args.end()}, err)) return 2;
+  // "tarnwick PLAYLIST.m3u": the playlist's folder in the window, the
+  // playlist in the editor.
+  const std::string playlist = PlaylistArgument(args);
+  std::vector<std::string> arguments(args.begin(), args.end());
+  if (!playlist.empty()) arguments = {ParentFolder(playlist)};
+  if (!StartWindow(window, std::move(arguments), err)) return 2;
   window.show();
+  if (!playlist.empty()) window.OpenPlaylistEditor(playlist);
   return QApplication::exec();
 }
 

@@ -5,8 +5,11 @@
 
 #include "dialog_screenshot.h"
 #include "main_window.h"
+#include "playlist/playlist_rows.h"
+#include "qt_text.h"
 #include "options_dialog.h"
 #include "pattern_picker_dialog.h"
+#include "playlist_dialog.h"
 #include "run_dialogs.h"
 #include "save_settings_dialog.h"
 #include "sort_order_dialog.h"
@@ -75,6 +78,21 @@ std::unique_ptr<QDialog> MakeTestResults(DialogShotContext& c) {
   return std::make_unique<TestResultsDialog>(rows, c.messages, c.window.interaction(), &c.window);
 }
 
+// The editor with FILE loaded when it is a playlist; otherwise with FILE's
+// folder's music files, or empty.
+std::unique_ptr<QDialog> MakePlaylistEditor(DialogShotContext& c) {
+  auto editor = std::make_unique<PlaylistDialog>(c.options, c.messages, c.window.interaction(),
+                                                 &c.window);
+  if (IsPlaylistName(c.file)) {
+    editor->LoadFile(std::filesystem::absolute(c.file).string());
+  } else if (!c.file.empty()) {
+    QStringList files;
+    for (const std::string& file : MediaFilesIn(FolderOf(c), false)) files << Q(file);
+    editor->AddFiles(files);
+  }
+  return editor;
+}
+
 }  // namespace
 
 std::span<const DialogShot> DialogShots() {
@@ -87,6 +105,8 @@ std::span<const DialogShot> DialogShots() {
       {"manual-rename", "a name edited by hand during a run (FILE: the row)", MakeManualRename},
       {"save-settings", "saving a settings file (FILE: the preset path)", MakeSaveSettings},
       {"test-results", "the result list of a test run (FILE: the row)", MakeTestResults},
+      {"playlist-editor", "the playlist editor (FILE: a playlist, or a file of a music folder)",
+       MakePlaylistEditor},
   };
   return kShots;
 }

@@ -43,6 +43,7 @@ class QTreeView;
 namespace tarnwick::gui {
 
 class FileListModel;
+class PlaylistDialog;
 class RenameControls;
 class WindowHost;
 
@@ -89,6 +90,9 @@ class MainWindow : public QMainWindow, public ProgressView {
   void SaveSettings();
   void EditActionOrder();
   void EditOptions();
+  // The playlist editor: with `playlist` loaded; without one, with the
+  // selected rows: a playlist file is loaded, music files are added.
+  PlaylistDialog* OpenPlaylistEditor(const std::string& playlist = {});
   void SelectAll();
   void DeselectAll();
   void InvertSelection();

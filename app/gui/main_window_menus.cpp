@@ -11,6 +11,7 @@
 #include "main_window.h"
 #include "options_dialog.h"
 #include "pattern_picker_dialog.h"
+#include "playlist_dialog.h"
 #include "persist/log_file.h"
 #include "persist/option_store.h"
 #include "qt_text.h"
@@ -69,6 +70,8 @@ void MainWindow::BuildMenus() {
   QMenu* tools = menuBar()->addMenu(Msg(messages_, "main.menu.tools"));
   tools->addAction(Msg(messages_, "main.menu.options") + " ...", this, &MainWindow::EditOptions);
   tools->addAction(Msg(messages_, "main.menu.action_order"), this, &MainWindow::EditActionOrder);
+  tools->addAction(Msg(messages_, "playlist.menu.open_editor"), this,
+                   [this] { OpenPlaylistEditor(); });
   tools->addAction(Msg(messages_, "main.menu.show_log"), QKeySequence(Qt::Key_F7), this,
                    [this] { OpenPath(RunLog(env_).LogFilePath()); });
   tools->addAction(Msg(messages_, "main.menu.undo_folder"), QKeySequence(Qt::Key_F8), this,
@@ -96,6 +99,25 @@ void MainWindow::EditOptions() {
                       std::string(messages_.Text("result_list.column_new_name")));
   SetNewNameColumnShown(options_.GetOption("ShowNewNames", "Options", "1") != "0");
   FillListFiles();
+}
+
+PlaylistDialog* MainWindow::OpenPlaylistEditor(const std::string& playlist) {
+  auto* editor = new PlaylistDialog(options_, messages_, *interaction_, this);
+  editor->setAttribute(Qt::WA_DeleteOnClose);
+  if (!playlist.empty()) {
+    editor->LoadFile(playlist);
+  } else {
+    const std::vector<std::size_t> selected = list_.SelectedRows();
+    if (selected.size() == 1 && IsPlaylistName(list_.Path(selected.front()))) {
+      editor->LoadFile(list_.Path(selected.front()));
+    } else {
+      QStringList files;
+      for (std::size_t row : selected) files << Q(list_.Path(row));
+      editor->AddFiles(files);
+    }
+  }
+  editor->show();
+  return editor;
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -41,6 +41,10 @@ std::uint8_t TrackByte(std::string_view track) {
 
 bool ReadID3v1(const std::filesystem::path& path, ID3v1Tag& tag) {
   const MediaFile file(path, MediaFile::Mode::kRead);
+  return ReadID3v1(file, tag);
+}
+
+bool ReadID3v1(const MediaFile& file, ID3v1Tag& tag) {
   if (!file.is_open() || file.Size() < static_cast<std::int64_t>(kBlock)) return false;
   const auto b = file.ReadAt(file.Size() - kBlock, kBlock);
   if (!IsTagAt(b)) return false;

@@ -195,6 +195,10 @@ bool ParseID3v2Chain(const MediaFile& file, ID3v2Tag& tag, std::vector<RawFrame>
 
 bool ReadID3v2(const std::filesystem::path& path, ID3v2Tag& tag) {
   const MediaFile file(path, MediaFile::Mode::kRead);
+  return ReadID3v2(file, tag);
+}
+
+bool ReadID3v2(const MediaFile& file, ID3v2Tag& tag) {
   if (!file.is_open()) return false;
   if (ParseID3v2Chain(file, tag, nullptr)) return true;
   std::int64_t end = file.Size();

@@ -12,6 +12,8 @@ namespace tarnwick {
 // True when a version 2 tag was found: the chain from the file's start
 // (following `SEEK` frames), or else a tag at the end found through "3DI".
 bool ReadID3v2(const std::filesystem::path& path, ID3v2Tag& tag);
+// The same from a file already open.
+bool ReadID3v2(const MediaFile& file, ID3v2Tag& tag);
 
 // Parses the tag at `position` into `tag`. With `raw_frames` the frames are
 // collected as bytes there instead of decoded. Returns the next tag's

@@ -31,9 +31,42 @@ MediaFile::~MediaFile() {
   if (fd_ >= 0) ::close(fd_);
 }
 
+namespace {
+
+constexpr std::size_t kWindowAlign = 4096;
+constexpr std::size_t kWindowSize = 2 * kWindowAlign;
+
+}  // namespace
+
 std::size_t MediaFile::ReadInto(std::int64_t offset, std::uint8_t* out, std::size_t count) const {
-  std::size_t done = 0;
   if (fd_ < 0 || offset < 0) return 0;
+  if (count > kWindowAlign) return ReadDirect(offset, out, count);
+  const auto inside = [&] {
+    return window_at_ >= 0 && offset >= window_at_ &&
+           offset + static_cast<std::int64_t>(count) <=
+               window_at_ + static_cast<std::int64_t>(window_.size());
+  };
+  if (!inside()) {
+    // A window that reaches past the end holds what the file has; a read
+    // beyond it is answered as the file answers it.
+    window_.resize(kWindowSize);
+    window_at_ = offset - offset % static_cast<std::int64_t>(kWindowAlign);
+    window_.resize(ReadDirect(window_at_, window_.data(), kWindowSize));
+    if (!inside()) {
+      const std::int64_t available =
+          window_at_ + static_cast<std::int64_t>(window_.size()) - offset;
+      if (available <= 0) return 0;
+      std::copy_n(window_.begin() + (offset - window_at_), available, out);
+      return static_cast<std::size_t>(available);
+    }
+  }
+  std::copy_n(window_.begin() + (offset - window_at_), count, out);
+  return count;
+}
+
+std::size_t MediaFile::ReadDirect(std::int64_t offset, std::uint8_t* out,
+                                  std::size_t count) const {
+  std::size_t done = 0;
   while (done < count) {
     const ssize_t got = ::pread(fd_, out + done, count - done, offset + done);
     if (got < 0 && errno == EINTR) continue;
@@ -50,6 +83,7 @@ std::vector<std::uint8_t> MediaFile::ReadAt(std::int64_t offset, std::size_t cou
 }
 
 bool MediaFile::WriteAt(std::int64_t offset, const std::uint8_t* data, std::size_t count) {
+  window_at_ = -1;
   std::size_t done = 0;
   if (count == 0) return true;
   while (done < count) {
@@ -63,6 +97,7 @@ bool MediaFile::WriteAt(std::int64_t offset, const std::uint8_t* data, std::size
 }
 
 bool MediaFile::Truncate(std::int64_t size) {
+  window_at_ = -1;
   if (::ftruncate(fd_, size) != 0) return false;
   size_ = size;
   return true;

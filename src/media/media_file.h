@@ -33,8 +33,15 @@ class MediaFile {
   bool Sync();
 
  private:
+  std::size_t ReadDirect(std::int64_t offset, std::uint8_t* out, std::size_t count) const;
+
   int fd_ = -1;
   std::int64_t size_ = 0;
+  // The readers ask for many small pieces near each other (a header, then its
+  // frames, then the tag at the end): small reads are served from one window
+  // of the file read at once. Any write empties it.
+  mutable std::vector<std::uint8_t> window_;
+  mutable std::int64_t window_at_ = -1;
 };
 
 // Clears the read-only attribute when the file has it; nothing else changes.

@@ -142,6 +142,10 @@ void TagFacts(const MediaFile& file, MPEGInfo& info) {
 
 bool ReadMPEGInfo(const std::filesystem::path& path, MPEGInfo& info) {
   const MediaFile file(path, MediaFile::Mode::kRead);
+  return ReadMPEGInfo(file, info);
+}
+
+bool ReadMPEGInfo(const MediaFile& file, MPEGInfo& info) {
   if (!file.is_open() || file.Size() < 4) return false;
   const StreamScan scan = Scan(file, info);
   TagFacts(file, info);

@@ -4,6 +4,8 @@
 #include <filesystem>
 #include <string>
 
+#include "media/media_file.h"
+
 namespace tarnwick {
 
 // The technical facts of an MP3 file, from its first frame header and any
@@ -30,6 +32,9 @@ struct MPEGInfo {
 // bytes; numeric fields no frame sets stay as they were. A variable bit rate
 // header with the reserved sampling rate raises VbError 11.
 bool ReadMPEGInfo(const std::filesystem::path& path, MPEGInfo& info);
+// The same from a file already open, for readers that take several things
+// from one file.
+bool ReadMPEGInfo(const MediaFile& file, MPEGInfo& info);
 
 // The playing time of the stream in milliseconds as the same headers give it;
 // 0 when no frame is found or the file cannot be read.

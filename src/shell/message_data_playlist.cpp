@@ -114,6 +114,31 @@ constexpr MessageEntry kEntries[] = {
      "Eine leere Playlist kann nicht gespeichert werden."},
     {0, "playlist.not_supported", "File is no supported playlist and can't be loaded!",
      "Die Datei ist keine unterstützte Playlist und kann nicht geladen werden!"},
+
+    // Ours: the menu of the window, the file dialogues' filters, and what
+    // loading and saving can meet on this system.
+    {0, "playlist.menu.list", "List", "Liste"},
+    {0, "playlist.menu.open_editor", "Playlist editor ...", "Playlist-Editor ..."},
+    {0, "playlist.filter_playlists", "Playlists", "Playlists"},
+    {0, "playlist.filter_audio", "Audio files", "Audiodateien"},
+    {0, "playlist.replace_question", "The file already exists. Do you want to replace it?",
+     "Die Datei existiert bereits. Wollen Sie sie ersetzen?"},
+    {0, "playlist.save_failed", "The playlist could not be saved:",
+     "Die Playlist konnte nicht gespeichert werden:"},
+    {0, "playlist.load_failed", "The playlist could not be read:",
+     "Die Playlist konnte nicht gelesen werden:"},
+    {0, "playlist.unstorable_path",
+     "This path holds a line break, which no playlist can store. Remove the title or change its "
+     "path:",
+     "Dieser Pfad enthält einen Zeilenumbruch, den keine Playlist speichern kann. Entfernen Sie "
+     "den Titel oder ändern Sie seinen Pfad:"},
+    {0, "playlist.targets_exist", "files are already in the folder and were left as they are.",
+     "Dateien sind bereits im Ordner und wurden nicht verändert."},
+    {0, "playlist.copy_failed", "files could not be copied or moved:",
+     "Dateien konnten nicht kopiert oder verschoben werden:"},
+    {0, "playlist.copy_cancelled", "Cancelled.", "Abgebrochen."},
+    {0, "playlist.tag_editor_missing", "The tag editor is not available yet.",
+     "Der Tag-Editor ist noch nicht verfügbar."},
 };
 
 }  // namespace
