@@ -8,7 +8,6 @@
 #include <QDesktopServices>
 #include <QFileInfo>
 #include <QFileSystemModel>
-#include <QFileSystemWatcher>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -35,6 +34,7 @@
 #include "core/settings_file.h"
 #include "core/start_rename.h"
 #include "file_list_model.h"
+#include "filelist/change_dir.h"
 #include "filelist/column_headings.h"
 #include "pattern_picker_dialog.h"
 #include "persist/default_paths.h"
@@ -81,12 +81,13 @@ MainWindow::MainWindow(OptionStore& options, const MessageTable& messages, Inter
   status_flush_.setSingleShot(true);
   status_flush_.setInterval(50);
   connect(&status_flush_, &QTimer::timeout, this, &MainWindow::FlushStatus);
+  // The sample's timer keeps this interval where the sample is turned off.
+  change_timer_.setInterval(500);
+  watch_timer_.setInterval(200);
+  connect(&watch_timer_, &QTimer::timeout, this, &MainWindow::WatchTick);
   refill_timer_.setSingleShot(true);
-  refill_timer_.setInterval(700);
-  connect(&refill_timer_, &QTimer::timeout, this, [this] {
-    if (app_.run_active) return;
-    FillListFiles();
-  });
+  refill_timer_.setInterval(300);
+  connect(&refill_timer_, &QTimer::timeout, this, &MainWindow::RefillFromWatch);
   ShowSettings();
   ShowActionOrder();
 }
@@ -137,12 +138,6 @@ void MainWindow::BuildWidgets() {
   progress_->hide();
   statusBar()->addWidget(status_, 1);
   statusBar()->addPermanentWidget(progress_);
-
-  watcher_ = new QFileSystemWatcher(this);
-  connect(watcher_, &QFileSystemWatcher::directoryChanged, this, [this] {
-    if (options_.GetOption("CheckNotForNewFiles", "Options", "0") == "1") return;
-    refill_timer_.start();
-  });
 }
 
 QWidget* MainWindow::BuildListPane() {
@@ -337,14 +332,22 @@ void MainWindow::EditActionOrder() {
 void MainWindow::FillListFiles() {
   change_timer_.stop();
   new_name_timer_.stop();
+  refill_timer_.stop();
   preview_.Start(SampleEnv());  // no rows are selected while the list is empty
   StopFolderWatch();
   FillRequest request;
   request.folder = app_.CurrentPath;
   request.include_subfolders = Ticked(settings_.chkIncludeSubfolders);
+  const bool same_list =
+      request.folder == filled_folder_ && request.include_subfolders == filled_subfolders_;
+  const std::vector<std::string> selected =
+      same_list ? list_.SelectedPaths() : std::vector<std::string>();
   list_.Clear();
   model_->Refresh();
   loader_.FillListFiles(list_, request);
+  filled_folder_ = request.folder;
+  filled_subfolders_ = request.include_subfolders;
+  list_.SelectPaths(selected);
   model_->Refresh();
   UpdateFilterItems();
   ListSelectionToView();
@@ -401,8 +404,20 @@ void MainWindow::FolderChosen(const QModelIndex& index) {
   const QString path = folder_model_->filePath(index);
   if (S(path) == app_.CurrentPath) return;
   folder_to_reveal_.clear();  // the user chose: the tree stays where it is
-  app_.CurrentPath = S(path);
+  ChangeDir(path);
+}
+
+void MainWindow::ChangeDir(const QString& folder) {
+  QElapsedTimer took;
+  took.start();
+  status_->setText(Msg(messages_, "filelist.wait_reading_directory"));
+  BeginChangeDir(app_);
+  settings_.cboExtension = app_.CurrentFilter;
+  app_.CurrentPath = S(folder);
+  sample_->clear();
   FillListFiles();
+  LogChangedDir(fill_log_, messages_, app_.CurrentPath, list_.size(),
+                std::chrono::milliseconds(took.elapsed()));
 }
 
 void MainWindow::ViewSelectionToList() {
@@ -528,8 +543,10 @@ QString MainWindow::NewNameStatus() const {
 void MainWindow::ApplySampleRate() {
   rate_ = ReadSampleRate(options_, messages_);
   sample_frame_->setVisible(rate_ != SampleRate::kTurnOff);
+  // "Turn off" keeps the interval: the timer still shows the counts.
   const int interval = SampleIntervalMilliseconds(rate_);
-  if (interval > 0) change_timer_.start(interval);
+  if (interval > 0) change_timer_.setInterval(interval);
+  change_timer_.start();
 }
 
 void MainWindow::SampleTick(bool force) {
@@ -581,9 +598,11 @@ void MainWindow::StartRenaming() {
   change_timer_.stop();
   new_name_timer_.stop();
   ViewSelectionToList();
+  starting_run_ = true;
   const RenameRunResult result =
       StartRename({app_, settings_, list_, options_, *interaction_, messages_, clock_, log_state_,
                    media_readers_, &loader_});
+  starting_run_ = false;
   model_->Refresh();
   UpdateFilterItems();
   ListSelectionToView();
@@ -677,14 +696,32 @@ void MainWindow::PrepareButtons(bool enable, bool keep_busy_indicator) {
 }
 
 void MainWindow::StartFolderWatch() {
-  StopFolderWatch();
-  if (!app_.CurrentPath.empty() && QFileInfo(Q(app_.CurrentPath)).isDir()) {
-    watcher_->addPath(Q(app_.CurrentPath));
-  }
+  if (folder_watch_.IsRunning()) return;
+  if (options_.GetOption("CheckNotForNewFiles", "Options", "0") == "1") return;
+  if (app_.CurrentPath.empty()) return;
+  // A folder that cannot be watched is listed all the same.
+  if (!folder_watch_.Start(app_.CurrentPath, Ticked(settings_.chkIncludeSubfolders)).ok()) return;
+  watch_timer_.start();
 }
 
 void MainWindow::StopFolderWatch() {
-  if (!watcher_->directories().isEmpty()) watcher_->removePaths(watcher_->directories());
+  folder_watch_.Stop();
+  watch_timer_.stop();
+}
+
+void MainWindow::WatchTick() {
+  if (!folder_watch_.Poll()) return;
+  if (!refill_timer_.isActive()) refill_timer_.start();
+}
+
+void MainWindow::RefillFromWatch() {
+  const bool busy = app_.run_active || starting_run_ || !start_->isEnabled() ||
+                    QApplication::activeModalWidget() != nullptr;
+  if (busy) {
+    refill_timer_.start();
+    return;
+  }
+  FillListFiles();
 }
 
 // --- Events. -------------------------------------------------------------------------

@@ -17,6 +17,7 @@
 #include "persist/log_file.h"
 #include "persist/log_undo_env.h"
 #include "persist/log_undo_state.h"
+#include "platform/folder_watch.h"
 #include "qt_interaction.h"
 #include "shell/app_state.h"
 #include "shell/message_table.h"
@@ -28,7 +29,6 @@ class QAction;
 class QSplashScreen;
 class QComboBox;
 class QFileSystemModel;
-class QFileSystemWatcher;
 class QGroupBox;
 class QLabel;
 class QLineEdit;
@@ -101,6 +101,8 @@ class MainWindow : public QMainWindow, public ProgressView {
   void SetNewNameColumnShown(bool shown);
   // Applies the control `name` as if the user changed it.
   void ControlChanged(std::string_view name, const std::string& value);
+  // The watch of the folder (and its subfolders when they are listed):
+  // files that come, go, are renamed or written to refill the list.
   void StartFolderWatch();
   void StopFolderWatch();
 
@@ -171,6 +173,13 @@ class MainWindow : public QMainWindow, public ProgressView {
   void OpenPatternPicker(QLineEdit* field);
   void OpenPath(const std::string& path);
   void FolderChosen(const QModelIndex& index);
+  // `ChangeDir`: the list of a newly chosen folder, with the filter back to
+  // "*.*" and the change in the log.
+  void ChangeDir(const QString& folder);
+  void WatchTick();
+  // A refill asked for by the watch waits while a job runs or a dialogue
+  // is open: the rows a user confirmed are the rows a run works on.
+  void RefillFromWatch();
   // Selects the current folder in the tree and scrolls it into view; the
   // tree reads folders in the background, so this runs again as they load.
   void RevealCurrentFolder();
@@ -197,7 +206,7 @@ class MainWindow : public QMainWindow, public ProgressView {
 
   FileListModel* model_ = nullptr;
   QFileSystemModel* folder_model_ = nullptr;
-  QFileSystemWatcher* watcher_ = nullptr;
+  FolderWatch folder_watch_;
   QTreeView* folders_ = nullptr;
   QTableView* files_ = nullptr;
   QListView* names_ = nullptr;
@@ -217,7 +226,13 @@ class MainWindow : public QMainWindow, public ProgressView {
   QTimer change_timer_;      // tmrChange
   QTimer new_name_timer_;    // the slices of the "New name" column
   QTimer new_name_restart_;  // a change starts the column anew after a pause
-  QTimer refill_timer_;      // the folder watch's fill
+  QTimer watch_timer_;       // polls the folder watch
+  QTimer refill_timer_;      // the folder watch's fill, a moment after a change
+  // The folder and subfolder tick of the last fill: a refill of the same
+  // list keeps the selection by name.
+  std::string filled_folder_;
+  bool filled_subfolders_ = false;
+  bool starting_run_ = false;
   QTimer status_flush_;
   QElapsedTimer status_clock_;
   QString pending_status_;

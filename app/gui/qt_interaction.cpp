@@ -81,8 +81,9 @@ void QtInteraction::HandleEvents() {
 }
 
 bool QtInteraction::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::KeyPress &&
-      static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+  if (job_running_ && event->type() == QEvent::KeyPress &&
+      static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape &&
+      QApplication::activeModalWidget() == nullptr) {
     esc_pressed_ = true;
   }
   return QObject::eventFilter(watched, event);
@@ -182,6 +183,8 @@ void QtInteraction::HideProgress() {
 }
 
 void QtInteraction::SetControlsEnabled(bool enabled, bool keep_busy_indicator) {
+  job_running_ = !enabled;
+  esc_pressed_ = false;
   if (view_ != nullptr) view_->PrepareButtons(enabled, keep_busy_indicator);
 }
 

@@ -28,6 +28,10 @@ class ProgressView {
 // file choosers, the status line, the progress bar. Esc is caught by an
 // event filter on the application and read once per PollCancel; Yield lets
 // the window handle its events during a long job.
+//
+// Only an Esc pressed while a job runs counts, and not one pressed in a
+// dialogue the job opened: the Esc that closed a question or a menu before
+// the job must not stop it after its first file.
 class QtInteraction : public QObject, public Interaction {
   Q_OBJECT
 
@@ -66,6 +70,8 @@ class QtInteraction : public QObject, public Interaction {
   void HandleEvents();
   QElapsedTimer since_events_;
   bool esc_pressed_ = false;
+  // Between SetControlsEnabled(false) and SetControlsEnabled(true).
+  bool job_running_ = false;
   FinishSound sound_;
 };
 

@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -73,6 +74,9 @@ FileExistsDialog::FileExistsDialog(const FileExistsRequest& request, const Messa
       buttons->addButton(Msg(messages, "file_exists.button_skip"), QDialogButtonBox::ActionRole);
   auto* cancel =
       buttons->addButton(Msg(messages, "run.button_cancel"), QDialogButtonBox::RejectRole);
+  ok->setObjectName("cmdOK");
+  skip->setObjectName("cmdSkip");
+  cancel->setObjectName("cmdCancel");
   ok->setDefault(true);
   layout->addWidget(buttons);
   connect(ok, &QPushButton::clicked, this, [this] { Ok(); });
@@ -99,6 +103,14 @@ bool FileExistsDialog::Ok() {
 void FileExistsDialog::Skip() {
   answer_ = {FileExistsChoice::kSkip, {}, skip_all_->isChecked()};
   accept();
+}
+
+void FileExistsDialog::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape) {
+    event->accept();
+    return;
+  }
+  QDialog::keyPressEvent(event);
 }
 
 void FileExistsDialog::CancelRun() {

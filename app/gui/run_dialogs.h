@@ -41,7 +41,10 @@ class FileExistsDialog : public QDialog {
   void CancelRun();
 
  protected:
+  // The title bar's close is Cancel; Esc is not: a key meant for the run
+  // must not end it through the dialogue.
   void reject() override { CancelRun(); }
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   FileExistsRequest request_;

@@ -64,6 +64,13 @@ class FileList {
   std::size_t SelectedCount() const;
   // The selected rows in list order.
   std::vector<std::size_t> SelectedRows() const;
+  // The absolute paths of the selected rows, to find them again after a
+  // refill.
+  std::vector<std::string> SelectedPaths() const;
+  // Selects exactly the rows whose path is in `paths` (rows not found are
+  // gone from the folder). Returns how many rows it selected; with none,
+  // the selection is left as it was.
+  std::size_t SelectPaths(std::span<const std::string> paths);
 
   // --- Removal. Rows after a removed one move up; the order stays.
   void RemoveRows(std::span<const std::size_t> rows);

@@ -1,5 +1,7 @@
 // Selection and removal of rows.
 #include <algorithm>
+#include <string_view>
+#include <unordered_set>
 
 #include "filelist/file_list.h"
 
@@ -34,6 +36,27 @@ std::vector<std::size_t> FileList::SelectedRows() const {
     if (rows_[i].selected) selected.push_back(i);
   }
   return selected;
+}
+
+std::vector<std::string> FileList::SelectedPaths() const {
+  std::vector<std::string> paths;
+  for (std::size_t i = 0; i < rows_.size(); ++i) {
+    if (rows_[i].selected) paths.push_back(Path(i));
+  }
+  return paths;
+}
+
+std::size_t FileList::SelectPaths(std::span<const std::string> paths) {
+  if (paths.empty()) return 0;
+  const std::unordered_set<std::string_view> wanted(paths.begin(), paths.end());
+  std::vector<std::size_t> found;
+  for (std::size_t i = 0; i < rows_.size(); ++i) {
+    if (wanted.contains(Path(i))) found.push_back(i);
+  }
+  if (found.empty()) return 0;
+  DeselectAll();
+  for (std::size_t row : found) rows_[row].selected = true;
+  return found.size();
 }
 
 void FileList::RemoveRows(std::span<const std::size_t> rows) {

@@ -91,6 +91,9 @@ void FileListLoader::ReportReadError(const std::string& folder, const FolderRead
 
 bool FileListLoader::FillListView(FileList& list, const FillRequest& request) {
   stopped_ = false;
+  // A cancel left over from earlier work (a question answered No, an Esc
+  // before the fill) must not stop this fill at its first file.
+  context_.state.CancelRun = false;
   list.Clear();
   list.set_language(context_.messages.language());
   list.set_date_format(vb::LCase(context_.options.GetOption("DateFormat", kOptions, "dd.mm.yyyy")));

@@ -4,6 +4,7 @@
 
 #include <QCheckBox>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTest>
 
 #include "gui/gui_test_support.h"
@@ -61,9 +62,15 @@ TEST_F(RunDialogsTest, FileExistsSkipAndCancelKeepTheTick) {
   EXPECT_EQ(skip.answer().choice, FileExistsChoice::kSkip);
   EXPECT_TRUE(skip.answer().skip_all_others);
 
+  // Esc is no answer here: the run goes on only through a button.
   FileExistsDialog cancel(Request(), messages, notices);
+  cancel.show();
   QTest::keyClick(&cancel, Qt::Key_Escape);
+  EXPECT_TRUE(cancel.isVisible());
+  EXPECT_NE(cancel.answer().choice, FileExistsChoice::kCancel);
+  cancel.findChild<QPushButton*>("cmdCancel")->click();
   EXPECT_EQ(cancel.answer().choice, FileExistsChoice::kCancel);
+  EXPECT_FALSE(cancel.isVisible());
   EXPECT_TRUE(notices.asked().empty());
 }
 
