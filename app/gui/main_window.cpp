@@ -483,6 +483,10 @@ void MainWindow::SortBy(int column, bool descending) {
   model_->Refresh();
   files_->horizontalHeader()->setSortIndicator(
       column, descending ? Qt::DescendingOrder : Qt::AscendingOrder);
+  if (sort_descending_action_ != nullptr) {
+    const QSignalBlocker block(sort_descending_action_);
+    sort_descending_action_->setChecked(descending);
+  }
   ListSelectionToView();
 }
 
@@ -641,10 +645,17 @@ void MainWindow::ShowStatusText(StatusArea area, const QString& text) {
     splash_->showMessage(text, Qt::AlignBottom | Qt::AlignHCenter);
     return;
   }
-  // A fill writes a status per file: labels are written at most every few
-  // milliseconds, and the last text of a burst a moment later.
   QString& pending = area == StatusArea::kSampleFrame ? pending_frame_ : pending_status_;
   pending = text;
+  QueueStatusFlush();
+}
+
+// A fill or a run reports each file: the status line, the caption and the
+// bar are drawn together at most every few milliseconds, and the last state
+// of a burst a moment later. Drawn together, the caption's "[n/total]" and
+// the bar always tell the same; a window manager would lag far behind a
+// title written per file.
+void MainWindow::QueueStatusFlush() {
   if (status_clock_.isValid() && status_clock_.elapsed() < 40) {
     if (!status_flush_.isActive()) status_flush_.start();
     return;
@@ -656,26 +667,36 @@ void MainWindow::FlushStatus() {
   status_clock_.start();
   if (!pending_status_.isNull()) status_->setText(pending_status_);
   if (!pending_frame_.isNull()) sample_frame_->setTitle(pending_frame_);
+  if (!pending_caption_.isNull()) setWindowTitle(pending_caption_);
   pending_status_ = QString();
   pending_frame_ = QString();
+  pending_caption_ = QString();
+  if (!pending_progress_) return;
+  const auto [now, top] = *pending_progress_;
+  pending_progress_.reset();
+  if (progress_->maximum() != top) progress_->setRange(0, top);
+  progress_->setValue(now);
+  if (!progress_->isVisible()) progress_->show();
 }
 
-void MainWindow::SetWindowCaption(const QString& text) { setWindowTitle(text); }
+void MainWindow::SetWindowCaption(const QString& text) {
+  pending_caption_ = text;
+  QueueStatusFlush();
+}
 
 void MainWindow::ShowProgressBar(std::int64_t value, std::int64_t max) {
   // The bar counts in int; big lists are scaled.
   const double scale = max > 1000000 ? 1000000.0 / static_cast<double>(max) : 1.0;
   const int top = static_cast<int>(static_cast<double>(max) * scale);
   const int now = static_cast<int>(static_cast<double>(value) * scale);
-  if (progress_->maximum() != top) progress_->setRange(0, top);
-  // Only steps the eye can see are drawn.
-  if (std::abs(now - progress_->value()) * 200 >= std::max(top, 1) || now == top) {
-    progress_->setValue(now);
-  }
-  if (!progress_->isVisible()) progress_->show();
+  pending_progress_ = std::pair(now, top);
+  QueueStatusFlush();
 }
 
-void MainWindow::HideProgressBar() { progress_->hide(); }
+void MainWindow::HideProgressBar() {
+  pending_progress_.reset();
+  progress_->hide();
+}
 
 void MainWindow::PrepareButtons(bool enable, bool keep_busy_indicator) {
   app_.run_active = !enable;

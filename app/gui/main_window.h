@@ -4,6 +4,8 @@
 #include <QMainWindow>
 #include <QTimer>
 #include <memory>
+#include <optional>
+#include <utility>
 #include <string>
 
 #include "base/clock.h"
@@ -184,6 +186,7 @@ class MainWindow : public QMainWindow, public ProgressView {
   // tree reads folders in the background, so this runs again as they load.
   void RevealCurrentFolder();
   void FolderLoaded(const QString& path);
+  void QueueStatusFlush();
   void FlushStatus();
   void UpdateFilterItems();
 
@@ -239,12 +242,15 @@ class MainWindow : public QMainWindow, public ProgressView {
   QString folder_to_reveal_;  // shown in the tree once its parents are read
   QTimer reveal_timeout_;     // stops following the tree's loads
   QString pending_frame_;
+  QString pending_caption_;
+  std::optional<std::pair<int, int>> pending_progress_;  // value, maximum
   SampleRate rate_ = SampleRate::kNormal;
   int sample_length_ = 0;
   bool syncing_selection_ = false;
   std::unique_ptr<WindowHost> host_;
   QSplashScreen* splash_ = nullptr;
   QAction* new_names_action_ = nullptr;
+  QAction* sort_descending_action_ = nullptr;
 };
 
 }  // namespace tarnwick::gui

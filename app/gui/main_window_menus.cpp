@@ -46,7 +46,14 @@ void MainWindow::BuildMenus() {
 
   QMenu* sort = menuBar()->addMenu(Msg(messages_, "main.menu.sort"));
   QAction* descending = new QAction(Msg(messages_, "main.menu.sort_descending"), this);
+  descending->setObjectName("mnuSortDescending");
   descending->setCheckable(true);
+  sort_descending_action_ = descending;
+  // The tick turns the list round by the column it is sorted by.
+  connect(descending, &QAction::triggered, this, [this](bool checked) {
+    const auto sorted = list_.sort_columns();
+    if (!sorted.empty()) SortBy(sorted.front().column, checked);
+  });
   const auto headings = ColumnHeadings(options_, messages_);
   for (int column = 0; column <= file_column::kFolderName + 1; ++column) {
     if (headings[column].empty()) continue;

@@ -2,16 +2,19 @@
 // folder, the folder watch, refills while the user works, and a run started
 // while another program changes the folder. The window answers with its own
 // dialogues here (no scripted interaction), as it does for a user.
+#include <QAction>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
 #include <QFileSystemModel>
 #include <QGroupBox>
+#include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QTableView>
 #include <QTest>
@@ -37,7 +40,7 @@ using gui::MainWindow;
 
 std::string NameOf(int number) {
   char name[32];
-  std::snprintf(name, sizeof name, "file%03d.txt", number);
+  std::snprintf(name, sizeof name, "file%05d.txt", number);
   return name;
 }
 
@@ -218,7 +221,7 @@ TEST_F(WindowListTest, ARefillKeepsTheSelectionByNameAndARunTheConfirmedRows) {
   ASSERT_EQ(window->list().SelectedCount(), 12u);
   const std::vector<std::string> chosen = SelectedPaths();
 
-  dir.WriteFile("file000a.txt", "x");  // sorts among the rows, before the selection
+  dir.WriteFile("file00000a.txt", "x");  // sorts among the rows, before the selection
   ASSERT_TRUE(WaitFor([&] { return window->list().size() == 21u; }));
   EXPECT_EQ(SelectedPaths(), chosen);
   window->FillListFiles();  // F5 likewise
@@ -243,6 +246,68 @@ TEST_F(WindowListTest, ARefillKeepsTheSelectionByNameAndARunTheConfirmedRows) {
   }
   EXPECT_EQ(renamed, expected);
   EXPECT_NE(ReadLog().find(NameOf(5)), std::string::npos);
+}
+
+TEST_F(WindowListTest, AClickOnAHeaderSortsABigListAtOnce) {
+  Open(20000);
+  ASSERT_EQ(window->list().size(), 20000u);
+  QHeaderView* header = window->file_view()->horizontalHeader();
+  const auto click = [&](int column) {
+    const QPoint at(header->sectionViewportPosition(column) + 5, header->height() / 2);
+    QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, at);
+  };
+  const auto shown = [&](int row) {
+    const auto* model = window->file_view()->model();
+    return model->data(model->index(row, file_column::kName)).toString().toStdString();
+  };
+  QAction* descending = window->findChild<QAction*>("mnuSortDescending");
+  ASSERT_NE(descending, nullptr);
+  click(file_column::kName);
+  EXPECT_EQ(shown(0), NameOf(0));
+  EXPECT_EQ(header->sortIndicatorOrder(), Qt::AscendingOrder);
+  EXPECT_FALSE(descending->isChecked());
+  click(file_column::kName);
+  EXPECT_EQ(shown(0), NameOf(19999));
+  EXPECT_EQ(shown(19999), NameOf(0));
+  EXPECT_EQ(header->sortIndicatorOrder(), Qt::DescendingOrder);
+  EXPECT_TRUE(descending->isChecked());
+  // The menu's tick turns the list round by the same column.
+  descending->trigger();
+  EXPECT_EQ(shown(0), NameOf(0));
+  EXPECT_EQ(header->sortIndicatorOrder(), Qt::AscendingOrder);
+}
+
+// The caption names the file in hand and the bar shows how far the run is:
+// the two agree while it runs, and the title is not rewritten for every file
+// (a window manager draws titles slower than a run renames files).
+TEST_F(WindowListTest, TheCaptionAndTheProgressBarAgreeDuringARun) {
+  Open(5000);
+  window->settings().chkPrefix = 1;
+  window->settings().txtPrefix = "x_";
+  window->SelectAll();
+  auto* bar = window->findChild<QProgressBar*>("prgBar");
+  int title_changes = 0;
+  QObject::connect(window.get(), &QWidget::windowTitleChanged, [&] { ++title_changes; });
+  std::vector<std::pair<double, double>> seen;  // the caption's share, the bar's share
+  QTimer sampler;
+  sampler.setInterval(20);
+  QObject::connect(&sampler, &QTimer::timeout, [&] {
+    const QString title = window->windowTitle();
+    const auto open = title.indexOf('['), slash = title.indexOf('/', open),
+               close = title.indexOf(']', slash);
+    if (open < 0 || slash < 0 || close < 0 || !bar->isVisible()) return;
+    const double done = title.mid(open + 1, slash - open - 1).toDouble();
+    const double total = title.mid(slash + 1, close - slash - 1).toDouble();
+    if (total <= 0 || done >= total) return;  // after the last file the list is read again
+    seen.emplace_back(done / total, static_cast<double>(bar->value()) / bar->maximum());
+  });
+  sampler.start();
+  AnswerNextDialog("cmdStart");
+  window->StartRenaming();
+  sampler.stop();
+  ASSERT_FALSE(seen.empty());
+  for (const auto& [caption, shown] : seen) EXPECT_NEAR(caption, shown, 0.02);
+  EXPECT_LT(title_changes, 1000);
 }
 
 // Another thread makes, renames and removes files while the window fills and
