@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "core/journal.h"
@@ -57,6 +58,9 @@ struct RunContext {
   std::string command;
   // The note of the last file, which a cancelled file's entry takes over.
   std::string note;
+  // A run of given names (rename from a text file): the new name of each
+  // file by its path, in place of the renaming controls' pipeline.
+  const std::unordered_map<std::string, std::string>* given_names = nullptr;
 };
 
 }  // namespace tarnwick

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "persist/undo_oem_text.h"
 #include "placeholders/media_provider.h"
@@ -62,5 +63,16 @@ struct RenameRunResult {
 // batch, journal, dates and progress, and the end of the run. Nothing is
 // thrown. No file is ever overwritten.
 RenameRunResult StartRename(const RenameRunEnv& env);
+
+// A run of given names (`mnuRenameFromFile`): the k-th selected row, in list
+// order, takes `names[k]` instead of the name the renaming controls build;
+// by `optCopyRename` it is renamed, copied or only tested, with everything
+// else of a run: a taken name as `SkipExistingFiles` says, a change of case
+// through a free name, the log, the undo batch, the journal, the dates, the
+// end. The controls are not checked and no start question is asked: the
+// caller has asked its own. A name that keeps nothing before its extension
+// is not written ("<Could not be written, filename is empty>"). Rows beyond
+// the names keep their name.
+RenameRunResult RenameWithGivenNames(const RenameRunEnv& env, const std::vector<std::string>& names);
 
 }  // namespace tarnwick

@@ -1,9 +1,6 @@
 // The end of a run.
-#include <chrono>
-#include <cstdio>
-#include <thread>
-
 #include "base/path_text.h"
+#include "core/job_end.h"
 #include "core/numbering.h"
 #include "core/rename_settings.h"
 #include "core/run_error_handler.h"
@@ -35,31 +32,6 @@ void CloseUndoBatch(RunContext& run) {
   if (OptionIs(run, "OverwriteUndoBatch", "0", "0")) run.undo.FinishUndoBatch();
   if (run.journal) run.journal->Remove();
   run.journal.reset();
-}
-
-void PlayFinishSound(RunContext& run) {
-  if (!OptionIs(run, "ReadySound", "1", "1")) return;
-  const std::string fallback =
-      JoinPath(JoinPath(run.env.log_undo.ProgramFolder, "Media"), "notify.wav");
-  run.env.interaction.PlayWave(run.env.options.GetOption("ReadySoundPath", "Options", fallback));
-  // The sound's moment; a batch run has nobody to hear it.
-  if (!run.env.app.BatchMode) std::this_thread::sleep_for(std::chrono::milliseconds(500));
-}
-
-void ShowJobTime(RunContext& run) {
-  if (!OptionIs(run, "TimeMeasuring", "0", "1")) return;
-  const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(
-                           std::chrono::steady_clock::now() - run.started)
-                           .count();
-  char text[32];
-  std::snprintf(text, sizeof text, "%02lld:%02lld:%02lld", static_cast<long long>(seconds / 3600),
-                static_cast<long long>(seconds / 60 % 60), static_cast<long long>(seconds % 60));
-  MessageBoxRequest box;
-  box.title = std::string(run.env.messages.Text(736));
-  box.text =
-      std::string(run.env.messages.Text(735)) + "\r\n" + text + run.Text("run.time_format_hint");
-  box.icon = MessageIcon::kInformation;
-  run.env.interaction.ShowMessage(box);
 }
 
 // The question after a test, and the result list on Yes.
@@ -108,8 +80,8 @@ void FinishRun(RunContext& run) {
   env.interaction.ShowStatus(StatusArea::kSampleFrame, run.Text("sample.frame_caption"));
   env.interaction.HideProgress();
   Guarded(run, "", "", run.note, [&] { env.app.CurrentCount = StartNumberValue(env.settings); });
-  PlayFinishSound(run);
-  ShowJobTime(run);
+  PlayFinishSound(env);
+  ShowJobDuration(env, run.started);
   if (test) OfferTestResults(run);
   if (!test) JumpToLastSelectedFileIndex(run);
   env.options.SaveOption("SkipExistingFiles", "Options", "0");

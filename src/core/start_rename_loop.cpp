@@ -170,6 +170,32 @@ void CountFile(RunContext& run, const FileStep& file, bool skipped) {
   }
 }
 
+// The name a run of given names has for the file, decided against the
+// folder as the pipeline decides its own: a taken one is asked about (or
+// skipped by `SkipExistingFiles`) before the move.
+ProcessFileResult GivenName(RunContext& run, const FileStep& file) {
+  ProcessFileResult result;
+  const auto given = run.given_names->find(file.old_path);
+  if (given == run.given_names->end()) {
+    result.name = file.name;
+    return result;
+  }
+  // "Processing: [ 3 / 12 ]  name".
+  run.env.interaction.ShowStatus(StatusArea::kStatusLine,
+                                 run.Text("tools.processing") + " [ " +
+                                     std::to_string(file.index + 1) + " / " +
+                                     std::to_string(run.rows.size()) + " ]  " + file.name);
+  // An empty name is no skip here: like a name that keeps nothing before
+  // its extension it is reported as not written; "." takes that way.
+  const std::string name = given->second.empty() ? "." : given->second;
+  if (run.mode == RunMode::kTest || !BasePasses(JoinPath(file.folder, name), name)) {
+    result.name = name;
+    return result;
+  }
+  result.name = DecideCollision(run.Pipeline(), file.name, name, file.folder, file.name);
+  return result;
+}
+
 // Steps 2 to 12 of one file. The pipeline's own questions, and the error
 // handler, may set `CancelRun`.
 void RunFile(RunContext& run, FileStep& file, bool frozen) {
@@ -193,8 +219,10 @@ void RunFile(RunContext& run, FileStep& file, bool frozen) {
     run.exif_date = true;
   }
   file.new_name = file.name;
-  const ProcessFileResult processed =
-      ProcessFile(run.Pipeline(), file.new_name, file.row, file.folder);
+  const ProcessFileResult processed = run.given_names != nullptr
+                                          ? GivenName(run, file)
+                                          : ProcessFile(run.Pipeline(), file.new_name, file.row,
+                                                        file.folder);
   if (processed.error) {
     HandleRunError(run, *processed.error, file.old_path, JoinPath(file.folder, file.new_name), "");
     file.failed = true;

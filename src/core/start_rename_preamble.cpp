@@ -111,12 +111,6 @@ bool CheckFields(RunContext& run) {
   return true;
 }
 
-RunMode ModeOf(int opt_copy_rename) {
-  if (opt_copy_rename == kModeRename) return RunMode::kRename;
-  if (opt_copy_rename == kModeCopy) return RunMode::kCopy;
-  return RunMode::kTest;
-}
-
 // "Start renaming": rename, test or cancel; not asked in a batch run.
 bool Confirm(RunContext& run) {
   if (run.env.app.BatchMode || run.mode == RunMode::kTest) return true;
@@ -131,6 +125,12 @@ bool Confirm(RunContext& run) {
 }
 
 }  // namespace
+
+RunMode ModeOf(int opt_copy_rename) {
+  if (opt_copy_rename == kModeRename) return RunMode::kRename;
+  if (opt_copy_rename == kModeCopy) return RunMode::kCopy;
+  return RunMode::kTest;
+}
 
 bool RunPreamble(RunContext& run) {
   AppState& app = run.env.app;

@@ -6,6 +6,9 @@ namespace tarnwick {
 
 // The parts of a run, in the order StartRename calls them.
 
+// The mode of `optCopyRename`: 0 rename, 1 copy, anything else test.
+RunMode ModeOf(int opt_copy_rename);
+
 // The checks and the confirmation before any file is touched. Returns false
 // when one of them stopped the run; `result.stopped` and its message say
 // which. Every box is shown through the interaction as it comes.

@@ -26,6 +26,14 @@ namespace tarnwick {
 //     with 58 and both names stay as they were.
 FileStatus MoveFileNoReplace(const std::filesystem::path& from, const std::filesystem::path& to);
 
+// Moves a file and replaces a file of the target's name, as a move asked to
+// overwrite does. The replacement is one step of the file system (a plain
+// rename), so the old target is never gone before the new one is in place;
+// across file systems the copy is complete and on disk before it replaces
+// the target, and the source goes last. A folder of the target's name gives
+// 75, a read-only target 70 (as a copy would), a missing source 53.
+FileStatus MoveFileReplacing(const std::filesystem::path& from, const std::filesystem::path& to);
+
 // Copies a regular file. The data goes to a temporary name in the target
 // folder, is flushed to disk, gets the source's permission bits and its
 // last-write and last-access times, and is then renamed to the target:

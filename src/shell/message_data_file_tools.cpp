@@ -41,6 +41,11 @@ constexpr MessageEntry kEntries[] = {
     {0, "copymove.batch.copying_file", "Copying file", "Kopiere Datei"},
     {0, "copymove.batch.rename_file", "Rename file", "Verschiebe Datei"},
     {0, "tools.processing", "Processing:", "Bearbeite:"},
+    // Our own words for a target folder that cannot take the files.
+    {0, "copymove.target_missing", "The target directory does not exist:",
+     "Das Zielverzeichnis existiert nicht:"},
+    {0, "copymove.target_not_writable", "The target directory cannot be written to:",
+     "In das Zielverzeichnis kann nicht geschrieben werden:"},
 
     // Rename from a text file: the dialogue. Its title is ours.
     {0, "renamefile.title", "Rename from text file", "Umbenennen aus Textdatei"},
@@ -69,6 +74,11 @@ constexpr MessageEntry kEntries[] = {
      "der Textdatei entsprechen, damit der Auftrag ausgeführt werden kann!"},
     {0, "renamefile.confirm_text", "Are you sure to proceed?", "Wollen Sie wirklich fortfahren?"},
     {0, "renamefile.confirm_title", "Start rename from file", "Umbenennen aus Datei starten"},
+    // Our own words for a file that gives no names.
+    {0, "renamefile.cannot_read", "The text file cannot be read:",
+     "Die Textdatei kann nicht gelesen werden:"},
+    {0, "renamefile.not_a_text_file", "This is not a text file of names (it holds zero bytes):",
+     "Dies ist keine Textdatei mit Namen (sie enthält Null-Bytes):"},
 
     // Split.
     {0, "split.title", "Split file(s)", "Datei(en) teilen"},

@@ -54,7 +54,31 @@ FileStatus MoveAcrossFileSystems(const std::filesystem::path& from,
   return posix::StatusFromErrno(error, from);
 }
 
+// The checks a replacing move makes of the target, those of a copy.
+FileStatus CheckReplacedTarget(const std::filesystem::path& to) {
+  struct stat target;
+  if (::stat(to.c_str(), &target) != 0) return FileStatus::Success();
+  if (S_ISDIR(target.st_mode)) return FileStatus::Error(vb_error::kPathFileAccessError);
+  if ((target.st_mode & S_IWUSR) == 0) return FileStatus::Error(vb_error::kPermissionDenied);
+  return FileStatus::Success();
+}
+
 }  // namespace
+
+FileStatus MoveFileReplacing(const std::filesystem::path& from, const std::filesystem::path& to) {
+  if (from.empty() || to.empty()) return FileStatus::Error(vb_error::kBadFileName);
+  struct stat source;
+  if (::lstat(from.c_str(), &source) != 0) return posix::StatusFromErrno(errno, from);
+  if (FileStatus target = CheckReplacedTarget(to); !target.ok()) return target;
+  if (::rename(from.c_str(), to.c_str()) == 0) return FileStatus::Success();
+  const int error = errno;
+  if (error != EXDEV) return posix::StatusFromErrno(error, error == ENOENT ? to : from);
+  if (!S_ISREG(source.st_mode)) return FileStatus::Error(vb_error::kRenameAcrossDrives);
+  if (FileStatus copied = CopyFile(from, to, true); !copied.ok()) return copied;
+  // Both names now hold the data: should the source stay, nothing is lost.
+  if (::unlink(from.c_str()) != 0) return posix::StatusFromErrno(errno, from);
+  return FileStatus::Success();
+}
 
 FileStatus MoveFileNoReplace(const std::filesystem::path& from, const std::filesystem::path& to) {
   if (from.empty() || to.empty()) return FileStatus::Error(vb_error::kBadFileName);
