@@ -19,13 +19,16 @@ extern const Command kExifCommand;
 extern const Command kWmaCommand;
 extern const Command kReportCommand;
 extern const Command kPlaylistCommand;
+extern const Command kCopyCommand;
+extern const Command kMoveCommand;
+extern const Command kRenameFromTextCommand;
 
 std::span<const Command> AllCommands() {
   static const std::array kCommands = {
       kOptionsCommand, kExpandCommand,  kCatalogueCommand, kListCommand,
       kRunCommand,     kPreviewCommand, kUndoCommand,      kSettingsCommand,
       kTagsCommand,    kExifCommand,    kWmaCommand,       kReportCommand,
-      kPlaylistCommand,
+      kPlaylistCommand, kCopyCommand,     kMoveCommand,      kRenameFromTextCommand,
   };
   return kCommands;
 }

@@ -72,6 +72,9 @@ class FileList {
   // the selection is left as it was.
   std::size_t SelectPaths(std::span<const std::string> paths);
 
+  // Puts the rows in the order of `order`, a permutation of the row indices.
+  void ReorderRows(std::span<const std::size_t> order);
+
   // --- Removal. Rows after a removed one move up; the order stays.
   void RemoveRows(std::span<const std::size_t> rows);
   // Returns how many rows went.

@@ -59,6 +59,15 @@ std::size_t FileList::SelectPaths(std::span<const std::string> paths) {
   return found.size();
 }
 
+void FileList::ReorderRows(std::span<const std::size_t> order) {
+  std::vector<FileRow> reordered;
+  reordered.reserve(order.size());
+  for (std::size_t row : order) {
+    if (Valid(row)) reordered.push_back(std::move(rows_[row]));
+  }
+  rows_ = std::move(reordered);
+}
+
 void FileList::RemoveRows(std::span<const std::size_t> rows) {
   std::vector<bool> doomed(rows_.size(), false);
   for (std::size_t row : rows) {

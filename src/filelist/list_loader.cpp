@@ -3,6 +3,9 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <map>
+#include <set>
+#include <unordered_map>
 
 #include "base/path_text.h"
 #include "base/text.h"
@@ -131,6 +134,45 @@ void FileListLoader::WalkSubfolders(FileList& list, const std::string& folder,
     WalkSubfolders(list, subfolder, sub);
     walk_path_.pop_back();
   }
+}
+
+std::vector<std::string> FileListLoader::FillListWithFiles(FileList& list,
+                                                           std::span<const std::string> paths) {
+  list.Clear();
+  list.set_language(context_.messages.language());
+  list.set_date_format(vb::LCase(context_.options.GetOption("DateFormat", kOptions, "dd.mm.yyyy")));
+  extensions_.Clear();
+  std::vector<std::string> absolute;
+  std::vector<std::string> folders;  // in the order first named
+  std::map<std::string, std::set<std::string>> wanted;
+  for (const std::string& path : paths) {
+    absolute.push_back(AbsolutePathName(path, WorkingFolder()));
+    const std::string folder = ParentFolder(absolute.back());
+    if (!wanted.contains(folder)) folders.push_back(folder);
+    wanted[folder].insert(LastPathElement(absolute.back()));
+  }
+  for (const std::string& folder : folders) {
+    FolderRead read = GetFiles(folder);
+    if (!read.opened) continue;
+    const std::set<std::string>& names = wanted[folder];
+    std::erase_if(read.records, [&](const FileRecord& r) { return !names.contains(r.name); });
+    ViewFolder(list, folder, read);
+  }
+  std::unordered_map<std::string, std::size_t> row_of;
+  for (std::size_t row = 0; row < list.size(); ++row) row_of.emplace(list.Path(row), row);
+  std::vector<std::size_t> order;
+  std::vector<std::string> missing;
+  for (std::size_t i = 0; i < absolute.size(); ++i) {
+    const auto found = row_of.find(absolute[i]);
+    if (found == row_of.end()) {
+      missing.push_back(paths[i]);
+      continue;
+    }
+    order.push_back(found->second);
+    row_of.erase(found);  // a file named twice is one row
+  }
+  list.ReorderRows(order);
+  return missing;
 }
 
 }  // namespace tarnwick

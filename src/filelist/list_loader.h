@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <string>
 #include <utility>
 #include <vector>
@@ -48,6 +49,12 @@ class FileListLoader {
   // are and the filter `CurrentFilter`. True when Esc (Ctrl-C on the
   // command line) stopped the fill: the rows are then those read so far.
   bool FillListView(FileList& list, const FillRequest& request);
+
+  // The rows of the files named by `paths` (absolute, or relative to the
+  // working folder), in the order named, each folder read once, with the
+  // flags and filter of FillListView. Returns the paths that give no row
+  // (no such file, a folder, or a file the list does not show).
+  std::vector<std::string> FillListWithFiles(FileList& list, std::span<const std::string> paths);
 
   // The items of the extension box after the last fill.
   std::vector<std::string> Extensions() const { return extensions_.Items(); }

@@ -10,6 +10,7 @@
 #include "base/utf8.h"
 #include "base/vb_format.h"
 #include "filelist/file_list.h"
+#include "shell/interaction.h"
 #include "shell/message_table.h"
 
 namespace tarnwick {
@@ -160,6 +161,16 @@ std::vector<std::string> NamesForSelectedRows(const NameTextFile& file, const Fi
     names.push_back(std::move(name));
   }
   return names;
+}
+
+bool ConfirmRenameFromText(Interaction& interaction, const MessageTable& messages) {
+  MessageBoxRequest box;
+  box.title = std::string(messages.Text("renamefile.confirm_title"));
+  box.text = std::string(messages.Text("renamefile.confirm_text"));
+  box.buttons = Buttons::kYesNo;
+  box.icon = MessageIcon::kQuestion;
+  box.topic = Topic::kOther;
+  return interaction.ShowMessage(box) == Answer::kYes;
 }
 
 RenameRunResult RenameFromTextFile(const RenameRunEnv& env, const NameTextFile& file) {

@@ -51,6 +51,9 @@ NameTextCheck CheckNameTextFile(const NameTextFile& file, std::size_t selected,
 // the row's own extension where the new name has none.
 std::vector<std::string> NamesForSelectedRows(const NameTextFile& file, const FileList& list);
 
+// `cmdExecute`'s question "Are you sure to proceed?"; true on Yes.
+bool ConfirmRenameFromText(Interaction& interaction, const MessageTable& messages);
+
 // `mnuRenameFromFile`: the run of the names, after a check that passed.
 RenameRunResult RenameFromTextFile(const RenameRunEnv& env, const NameTextFile& file);
 

@@ -1,0 +1,80 @@
+#include "cli_job.h"
+
+#include <fnmatch.h>
+
+#include "base/path_text.h"
+#include "persist/default_paths.h"
+#include "persist/log_file.h"
+#include "platform/files.h"
+#include "platform/user_folders.h"
+#include "shell/cancel.h"
+
+namespace tarnwick::cli {
+namespace {
+
+CliOptions AnswersOf(bool assume_yes) {
+  CliOptions options;
+  options.assume_yes = assume_yes;
+  return options;
+}
+
+}  // namespace
+
+void CliJob::FillLog::WriteLogFileTool(std::string_view subject, std::string_view text) {
+  err_ << kProgramName << ": " << subject << ": " << text << '\n';
+}
+
+CliJob::CliJob(CliIo& io, bool assume_yes)
+    : options(OptionStore::ForCurrentUser()),
+      ui(AnswersOf(assume_yes)),
+      messages(MessageTable::Get(SystemLanguage())),
+      io_(io),
+      fill_log_(io.err),
+      loader_({options, app, ui, fill_log_, media_, messages}) {
+  app.BatchMode = true;
+  LogUndoEnv log_env{options, ui, messages, clock, app, log_undo};
+  RunLog log(log_env);
+  CreateDefaultPaths(log_env, log, UserDataBaseFolder(), UserDataFallbackFolder());
+  log_undo.ProgramFolder = ProgramFilesFolder().string();
+}
+
+std::optional<std::string> CliJob::ListFiles(std::span<const std::string> files) {
+  TakeViewFlags(options, app);
+  app.ShowHiddenFlag = 1;  // a file named on the command line is meant
+  app.CurrentPath = AbsolutePathName(ParentFolder(AbsolutePathName(files.front(), "")), "");
+  const std::vector<std::string> missing = loader_.FillListWithFiles(list, files);
+  list.SelectAll();
+  if (missing.empty()) return std::nullopt;
+  std::string message = "no such file:";
+  for (const std::string& path : missing) message += " " + path;
+  return message;
+}
+
+std::optional<std::string> CliJob::ListFolder(const std::string& folder, const std::string& glob) {
+  const std::string absolute = AbsolutePathName(folder, "");
+  if (!FolderExists(absolute)) return "no such folder: " + absolute;
+  TakeViewFlags(options, app);
+  app.CurrentPath = absolute;
+  {
+    ScopedInterruptCancel interrupt(app);
+    loader_.FillListView(list, {absolute, false});
+    if (app.CancelRun) return std::string("cancelled while reading the folder");
+  }
+  for (std::size_t r = 0; r < list.size(); ++r) {
+    const std::string name = list.Text(r, file_column::kName);
+    list.Select(r, glob.empty() || ::fnmatch(glob.c_str(), name.c_str(), FNM_CASEFOLD) == 0);
+  }
+  return std::nullopt;
+}
+
+RenameRunEnv CliJob::Env() {
+  return {app, settings, list, options, ui, messages, clock, log_undo, readers_};
+}
+
+void PrintCounts(CliIo& io, std::int64_t done, std::string_view done_word, std::int64_t skipped,
+                 std::int64_t failed, bool cancelled) {
+  io.err << kProgramName << ": " << done << " " << done_word << ", " << skipped << " skipped, "
+         << failed << " failed" << (cancelled ? ", cancelled" : "") << '\n';
+}
+
+}  // namespace tarnwick::cli

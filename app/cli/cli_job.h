@@ -1,0 +1,71 @@
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "base/clock.h"
+#include "cli_command.h"
+#include "core/rename_settings.h"
+#include "core/start_rename.h"
+#include "filelist/file_list.h"
+#include "filelist/list_loader.h"
+#include "filelist/media_column_source.h"
+#include "media/media_readers.h"
+#include "patient_interaction.h"
+#include "persist/log_undo_state.h"
+#include "persist/option_store.h"
+#include "shell/app_state.h"
+#include "shell/message_table.h"
+
+namespace tarnwick::cli {
+
+// Everything a command needs that works on files as the window's tools do:
+// the user's options, the log and undo folders set up as at start-up, the
+// command line's answers to questions, and the list of the files named.
+class CliJob {
+ public:
+  CliJob(CliIo& io, bool assume_yes);
+
+  // The rows of FILES, in the order named; every row selected. The message
+  // of the files that are no files, or nothing.
+  std::optional<std::string> ListFiles(std::span<const std::string> files);
+  // The rows of a folder's files whose names match `glob` (case-insensitive;
+  // empty: all), every row selected. The message of a missing folder.
+  std::optional<std::string> ListFolder(const std::string& folder, const std::string& glob);
+
+  RenameRunEnv Env();
+
+  OptionStore options;
+  AppState app;
+  PatientInteraction ui;
+  const MessageTable& messages;
+  SystemClock clock;
+  LogUndoState log_undo;
+  RenameSettings settings;
+  FileList list;
+
+ private:
+  class FillLog : public FileListLog {
+   public:
+    explicit FillLog(std::ostream& err) : err_(err) {}
+    void WriteLogFileHeader() override {}
+    void WriteLogFileTool(std::string_view subject, std::string_view text) override;
+
+   private:
+    std::ostream& err_;
+  };
+
+  CliIo& io_;
+  FillLog fill_log_;
+  MediaColumnSource media_;
+  MediaReaders readers_;
+  FileListLoader loader_;
+};
+
+// A run's or a tool's counts on standard error: "3 copied, 0 skipped, 1 failed".
+void PrintCounts(CliIo& io, std::int64_t done, std::string_view done_word, std::int64_t skipped,
+                 std::int64_t failed, bool cancelled);
+
+}  // namespace tarnwick::cli
