@@ -1,5 +1,6 @@
 // The dialogues `tarnwick --screenshot OUT.png --dialog NAME FILE` can draw:
 // one line each, in the order the usage lists them.
+#include <QLineEdit>
 #include <filesystem>
 #include <map>
 
@@ -7,11 +8,14 @@
 #include "main_window.h"
 #include "playlist/playlist_rows.h"
 #include "qt_text.h"
+#include "copy_move_dialog.h"
 #include "options_dialog.h"
 #include "pattern_picker_dialog.h"
+#include "rename_text_dialog.h"
 #include "playlist_dialog.h"
 #include "run_dialogs.h"
 #include "save_settings_dialog.h"
+#include "shell/scripted_interaction.h"
 #include "sort_order_dialog.h"
 #include "test_results_dialog.h"
 
@@ -93,6 +97,24 @@ std::unique_ptr<QDialog> MakePlaylistEditor(DialogShotContext& c) {
   return editor;
 }
 
+std::unique_ptr<QDialog> MakeCopyMove(DialogShotContext& c) {
+  auto dialog = std::make_unique<CopyMoveDialog>(c.options, c.messages, c.window.interaction(),
+                                                 &c.window);
+  if (dialog->target_field()->text().isEmpty()) dialog->target_field()->setText(Q(FolderOf(c)));
+  return dialog;
+}
+
+// With FILE, the dialogue has loaded it as the text file of names.
+std::unique_ptr<QDialog> MakeRenameFromText(DialogShotContext& c) {
+  // What the loading says (a refused file, a count that differs) is not
+  // drawn: the dialogue's own fields show it.
+  static ScriptedInteraction quiet;
+  auto dialog = std::make_unique<RenameTextDialog>(c.window.list().SelectedCount(), c.messages,
+                                                   quiet, &c.window);
+  if (!c.file.empty()) dialog->Load(std::filesystem::absolute(c.file).string());
+  return dialog;
+}
+
 }  // namespace
 
 std::span<const DialogShot> DialogShots() {
@@ -105,6 +127,9 @@ std::span<const DialogShot> DialogShots() {
       {"manual-rename", "a name edited by hand during a run (FILE: the row)", MakeManualRename},
       {"save-settings", "saving a settings file (FILE: the preset path)", MakeSaveSettings},
       {"test-results", "the result list of a test run (FILE: the row)", MakeTestResults},
+      {"copy-move", "copying or moving the selected files", MakeCopyMove},
+      {"rename-from-text", "renaming from a text file (FILE: the text file of names)",
+       MakeRenameFromText},
       {"playlist-editor", "the playlist editor (FILE: a playlist, or a file of a music folder)",
        MakePlaylistEditor},
   };

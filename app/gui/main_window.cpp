@@ -603,19 +603,26 @@ void MainWindow::StartRenaming() {
   new_name_timer_.stop();
   ViewSelectionToList();
   starting_run_ = true;
-  const RenameRunResult result =
-      StartRename({app_, settings_, list_, options_, *interaction_, messages_, clock_, log_state_,
-                   media_readers_, &loader_});
+  const RenameRunResult result = StartRename(RunEnv());
   starting_run_ = false;
+  AfterJob();
+  if (result.stopped && !result.focus_field.empty()) {
+    if (QWidget* field = findChild<QWidget*>(Q(result.focus_field))) field->setFocus();
+  }
+}
+
+RenameRunEnv MainWindow::RunEnv() {
+  return {app_,   settings_, list_,     options_,       *interaction_, messages_,
+          clock_, log_state_, media_readers_, &loader_};
+}
+
+void MainWindow::AfterJob() {
   model_->Refresh();
   UpdateFilterItems();
   ListSelectionToView();
   if (const std::vector<std::size_t> rows = list_.SelectedRows();
       !rows.empty() && options_.GetOption("JumpToLastSelectedFile", "Options", "1") == "1") {
     files_->scrollTo(model_->index(static_cast<int>(rows.back()), 0));
-  }
-  if (result.stopped && !result.focus_field.empty()) {
-    if (QWidget* field = findChild<QWidget*>(Q(result.focus_field))) field->setFocus();
   }
   ShowSettings();
   ApplySampleRate();

@@ -12,6 +12,8 @@
 #include "core/new_name_preview.h"
 #include "core/rename_settings.h"
 #include "core/sample.h"
+#include "core/start_rename.h"
+#include "tools/tool_job.h"
 #include "filelist/file_list.h"
 #include "filelist/list_loader.h"
 #include "filelist/media_column_source.h"
@@ -90,6 +92,9 @@ class MainWindow : public QMainWindow, public ProgressView {
   void StartRenaming();
   void LoadSettings();
   void SaveSettings();
+  // `mnuMoveCopyFiles` and `mnuRenameFromFile` on the selected rows.
+  void CopyMoveFiles();
+  void RenameFromTextFile();
   void EditActionOrder();
   void EditOptions();
   // The playlist editor: with `playlist` loaded; without one, with the
@@ -166,6 +171,13 @@ class MainWindow : public QMainWindow, public ProgressView {
   void BuildListMenu(QAction* refresh, QMenu* select);
   QWidget* BuildLowerPane();
   PipelineEnv SampleEnv();
+  // What a run or a tool job works with.
+  RenameRunEnv RunEnv();
+  // The window after a run or a tool job: the list, its selection, the
+  // sample and the new names shown anew.
+  void AfterJob();
+  // The files a tool failed on, in a box; nothing when none failed.
+  void ShowToolFailures(const ToolJobResult& result);
   void ViewSelectionToList();
   void ListSelectionToView();
   void RestartNewNames();

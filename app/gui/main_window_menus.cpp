@@ -79,6 +79,13 @@ void MainWindow::BuildMenus() {
   tools->addAction(Msg(messages_, "main.menu.action_order"), this, &MainWindow::EditActionOrder);
   tools->addAction(Msg(messages_, "playlist.menu.open_editor"), this,
                    [this] { OpenPlaylistEditor(); });
+  tools->addSeparator();
+  tools->addAction(Msg(messages_, "main.menu.move_copy_files"), this, &MainWindow::CopyMoveFiles)
+      ->setObjectName("mnuMoveCopyFiles");
+  tools->addAction(Msg(messages_, "main.menu.rename_from_file"), this,
+                   &MainWindow::RenameFromTextFile)
+      ->setObjectName("mnuRenameFromFile");
+  tools->addSeparator();
   tools->addAction(Msg(messages_, "main.menu.show_log"), QKeySequence(Qt::Key_F7), this,
                    [this] { OpenPath(RunLog(env_).LogFilePath()); });
   tools->addAction(Msg(messages_, "main.menu.undo_folder"), QKeySequence(Qt::Key_F8), this,

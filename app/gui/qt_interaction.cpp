@@ -92,7 +92,16 @@ bool QtInteraction::eventFilter(QObject* watched, QEvent* event) {
 Answer QtInteraction::ShowMessage(const MessageBoxRequest& request) {
   QString text = Q(request.text);
   text.replace("\r\n", "\n");
+  // A long report (a validation of many rows) would grow the box past the
+  // screen: its head shows, the whole text is under "Show Details...".
+  constexpr int kShownLines = 25;
+  QString details;
+  if (text.count('\n') > kShownLines) {
+    details = text;
+    text = text.section('\n', 0, kShownLines - 1) + "\n...";
+  }
   QMessageBox box(IconOf(request.icon), Q(request.title), text, QMessageBox::NoButton, window_);
+  if (!details.isEmpty()) box.setDetailedText(details);
   const std::vector<ButtonChoice> choices = ButtonsOf(request.buttons);
   for (const ButtonChoice& choice : choices) box.addButton(choice.button);
   box.exec();

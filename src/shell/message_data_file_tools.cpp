@@ -41,6 +41,8 @@ constexpr MessageEntry kEntries[] = {
     {0, "copymove.batch.copying_file", "Copying file", "Kopiere Datei"},
     {0, "copymove.batch.rename_file", "Rename file", "Verschiebe Datei"},
     {0, "tools.processing", "Processing:", "Bearbeite:"},
+    {0, "tools.files_failed", "%1 file(s) could not be done (each is in the log):",
+     "%1 Datei(en) konnten nicht bearbeitet werden (jede steht im Protokoll):"},
     // Our own words for a target folder that cannot take the files.
     {0, "copymove.target_missing", "The target directory does not exist:",
      "Das Zielverzeichnis existiert nicht:"},

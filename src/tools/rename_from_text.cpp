@@ -116,7 +116,11 @@ std::string NameTextReport(const std::vector<std::string>& rows, const MessageTa
 
 std::int64_t CountNameTextWords(const NameTextFile& file) {
   std::string text = vb::Replace(file.text, kCrLf, " ");
-  if (file.lf_only) text = vb::Replace(text, "\n", " ");
+  if (file.lf_only) {
+    // The LF that ends the last row of a Linux text file ends no word either.
+    if (text.ends_with('\n')) text.pop_back();
+    text = vb::Replace(text, "\n", " ");
+  }
   while (text.find("  ") != std::string::npos) text = vb::Replace(text, "  ", " ");
   if (text.empty()) return 0;
   return static_cast<std::int64_t>(SplitRows(text, " ").size());

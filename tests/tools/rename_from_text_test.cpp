@@ -76,6 +76,7 @@ TEST_F(RenameFromTextTest, TheCountMustMatchInBothDirectionsAndATrailingCrLfCoun
   EXPECT_EQ(CountNameTextWords(NameText("New  York\r\nold town  hall\r\n")), 6);
   EXPECT_EQ(CountNameTextWords(NameText("New  York\r\nold town  hall")), 5);
   EXPECT_EQ(CountNameTextWords(NameText("")), 0);
+  EXPECT_EQ(CountNameTextWords(NameText("one\ntwo three\n")), 3);
 }
 
 TEST_F(RenameFromTextTest, NamesGoByPositionKeepTheOldExtensionAndUndoTakesThemBack) {

@@ -1,0 +1,73 @@
+// The tools of the Tools menu that work on the selected rows.
+#include <QFileDialog>
+
+#include "copy_move_dialog.h"
+#include "main_window.h"
+#include "qt_text.h"
+#include "rename_text_dialog.h"
+#include "tools/copy_move.h"
+#include "tools/rename_from_text.h"
+
+namespace tarnwick::gui {
+namespace {
+
+constexpr int kFailuresShown = 12;
+
+}  // namespace
+
+void MainWindow::CopyMoveFiles() {
+  ViewSelectionToList();
+  if (list_.SelectedCount() == 0) return;
+  CopyMoveDialog dialog(options_, messages_, *interaction_, this);
+  if (dialog.exec() != QDialog::Accepted) return;
+  CopyMoveChoices choices = dialog.choices();
+  if (choices.batch_only) {
+    const QString filter = Msg(messages_, "result_list.filter_batch_file") + " (*.bat)";
+    QString path = QFileDialog::getSaveFileName(
+        this, Msg(messages_, "result_list.title_save_batch"), Q(choices.target_folder), filter,
+        nullptr, choices.append_batch ? QFileDialog::DontConfirmOverwrite : QFileDialog::Options());
+    if (path.isEmpty()) return;
+    if (!path.endsWith(".bat", Qt::CaseInsensitive)) path += ".bat";
+    choices.batch_path = S(path);
+  }
+  change_timer_.stop();
+  new_name_timer_.stop();
+  const ToolJobResult result = tarnwick::CopyMoveFiles(RunEnv(), choices);
+  AfterJob();
+  ShowToolFailures(result);
+}
+
+void MainWindow::RenameFromTextFile() {
+  ViewSelectionToList();
+  if (list_.SelectedCount() == 0) return;
+  RenameTextDialog dialog(list_.SelectedCount(), messages_, *interaction_, this);
+  if (dialog.exec() != QDialog::Accepted) return;
+  // The file is read again for the run: it may have been edited meanwhile.
+  const NameTextFile file = ReadNameTextFile(dialog.path(), messages_);
+  const NameTextCheck check = CheckNameTextFile(file, list_.SelectedCount(), messages_);
+  if (!check.ok) {
+    interaction_->ShowMessage(
+        {check.title, check.message, Buttons::kOk, MessageIcon::kExclamation, Topic::kNotice});
+    return;
+  }
+  change_timer_.stop();
+  new_name_timer_.stop();
+  starting_run_ = true;
+  tarnwick::RenameFromTextFile(RunEnv(), file);
+  starting_run_ = false;
+  AfterJob();
+}
+
+void MainWindow::ShowToolFailures(const ToolJobResult& result) {
+  if (result.failures.empty()) return;
+  std::string text = FillMessage(messages_.Text("tools.files_failed"),
+                                 {std::to_string(result.failures.size())});
+  for (std::size_t i = 0; i < result.failures.size() && i < kFailuresShown; ++i) {
+    text += "\r\n" + result.failures[i];
+  }
+  if (result.failures.size() > kFailuresShown) text += "\r\n...";
+  interaction_->ShowMessage({std::string(messages_.Text("copymove.title")), text, Buttons::kOk,
+                             MessageIcon::kExclamation, Topic::kNotice});
+}
+
+}  // namespace tarnwick::gui
