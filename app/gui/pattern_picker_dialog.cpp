@@ -135,7 +135,7 @@ void PatternPickerDialog::Search(const QString& text) {
   if (!found) return;
   QTreeWidgetItem* item = list_->topLevelItem(static_cast<int>(*found));
   mirroring_ = true;
-  item->setSelected(true);
+  list_->setCurrentItem(item, 0, QItemSelectionModel::ClearAndSelect);
   mirroring_ = false;
   list_->scrollToItem(item);
 }

@@ -1,6 +1,5 @@
 #include "placeholders/picker.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "base/text.h"
@@ -61,7 +60,11 @@ std::size_t PatternPicker::SelectedCount() const {
 
 std::optional<std::size_t> PatternPicker::Search(std::string_view text) {
   const std::optional<std::size_t> found = FindFirstCatalogueRow(rows_, text);
-  if (found) SetSelected(*found, true);
+  if (!found) return found;
+  // The row found is the selection: a search typed letter by letter must not
+  // leave the rows it passed on the way selected.
+  DeselectAll();
+  SetSelected(*found, true);
   return found;
 }
 

@@ -47,9 +47,9 @@ class PatternPicker {
   void DeselectAll();
   std::size_t SelectedCount() const;
 
-  // Runs the search of `txtSearch` for its current text. Selects the first
-  // match (other selections stay) and returns its index, the row to scroll
-  // into view; std::nullopt if nothing matched.
+  // Runs the search of `txtSearch` for its current text. The first match
+  // becomes the one selected row; its index is returned, the row to scroll
+  // into view. std::nullopt if nothing matched: the selection stays.
   std::optional<std::size_t> Search(std::string_view text);
 
   // `optSelection`. Only kManual enables the manual text and its clear button.

@@ -41,8 +41,13 @@ FileStatus MoveFileReplacing(const std::filesystem::path& from, const std::files
 // exists), with it by a replacing rename. A read-only target is not
 // overwritten (70). On any failure the temporary file is removed and the
 // target is left as it was.
+//
+// `flush` kWhenReplacing leaves out the flush where the copy takes a new
+// name: the source stays, so a power cut can cost at most the copy, as with
+// cp; a copy that replaces a file, and every copy a move makes, is flushed.
+enum class CopyFlush { kAlways, kWhenReplacing };
 FileStatus CopyFile(const std::filesystem::path& from, const std::filesystem::path& to,
-                    bool overwrite);
+                    bool overwrite, CopyFlush flush = CopyFlush::kAlways);
 
 // Removes a file (not a folder). A read-only file is removed as well: on Linux
 // the folder's permissions decide.

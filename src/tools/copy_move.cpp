@@ -57,7 +57,9 @@ FileStatus SetDates(ToolJob& job, const CopyMoveChoices& choices, std::size_t ro
 
 FileStatus CopyOrMove(const CopyMoveChoices& choices, const std::string& source,
                       const std::string& target) {
-  if (!choices.move) return CopyFile(source, target, choices.overwrite);
+  if (!choices.move) {
+    return CopyFile(source, target, choices.overwrite, CopyFlush::kWhenReplacing);
+  }
   // Kept: an existing target goes only with the overwrite tick; it is
   // replaced in one step instead of being deleted before the move.
   if (choices.overwrite) return MoveFileReplacing(source, target);

@@ -112,6 +112,19 @@ TEST_F(PickerDialogTest, SearchSelectsAndAppendInsertsTheTag) {
   EXPECT_EQ(after.text, "x{{Count}}" + tag.toStdString());
 }
 
+// Each keystroke's match replaces the one before: "exif" typed letter by
+// letter passes other rows, and OK inserts only the row shown selected.
+TEST_F(PickerDialogTest, ASearchTypedLetterByLetterSelectsOnlyTheLastMatch) {
+  PatternPickerDialog dialog(messages, "", 0);
+  QTest::keyClicks(dialog.search_field(), "exif");
+  const QList<QTreeWidgetItem*> selected = dialog.list()->selectedItems();
+  ASSERT_EQ(selected.size(), 1);
+  const std::string tag = selected.front()->text(0).section(' ', 0, 0).toStdString();
+  EXPECT_NE(tag.find("exif"), std::string::npos) << tag;
+  ASSERT_TRUE(dialog.Ok());
+  EXPECT_EQ(dialog.FieldAfter().text, tag);
+}
+
 TEST_F(PickerDialogTest, InsertAtCursorAndManualMode) {
   {
     PatternPickerDialog dialog(messages, "ab", 1);

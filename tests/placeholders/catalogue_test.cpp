@@ -180,6 +180,11 @@ TEST_F(PickerTest, SearchSelectsTheFirstMatch) {
   EXPECT_TRUE(picker_.IsSelected(IndexOf("{{ctime.}}")));
   EXPECT_FALSE(picker_.Search("zzz_nothing").has_value());
   EXPECT_EQ(picker_.SelectedCount(), 1u);
+  // A search that finds another row moves the selection there.
+  picker_.Search("e");
+  picker_.Search("ex");
+  EXPECT_EQ(picker_.Search("exif").has_value(), true);
+  EXPECT_EQ(picker_.SelectedCount(), 1u);
 }
 
 TEST_F(PickerTest, ManualModeUsesTheHandEditedText) {

@@ -26,14 +26,14 @@ void CopyDosAttributes(int source, int target) {
   if (size > 0) ::fsetxattr(target, kDosAttributes, value, static_cast<size_t>(size), 0);
 }
 
-// Data, permission bits, times, then the data on disk.
-int FillTemporary(int source, const struct stat& info, int target) {
+// Data, permission bits, times, then (with `flush`) the data on disk.
+int FillTemporary(int source, const struct stat& info, int target, bool flush) {
   if (const int error = posix::CopyData(source, target)) return error;
   CopyDosAttributes(source, target);
   if (::fchmod(target, info.st_mode & 07777) != 0) return errno;
   const struct timespec times[2] = {info.st_atim, info.st_mtim};
   if (::futimens(target, times) != 0) return errno;
-  if (::fsync(target) != 0) return errno;
+  if (flush && ::fsync(target) != 0) return errno;
   return 0;
 }
 
@@ -69,7 +69,7 @@ int PutInPlace(const std::string& temporary, const std::filesystem::path& to, bo
 }  // namespace
 
 FileStatus CopyFile(const std::filesystem::path& from, const std::filesystem::path& to,
-                    bool overwrite) {
+                    bool overwrite, CopyFlush flush) {
   if (from.empty() || to.empty()) return FileStatus::Error(vb_error::kBadFileName);
   posix::UniqueFd source(::open(from.c_str(), O_RDONLY | O_CLOEXEC));
   if (!source.valid()) return posix::StatusFromErrno(errno, from);
@@ -77,11 +77,14 @@ FileStatus CopyFile(const std::filesystem::path& from, const std::filesystem::pa
   if (::fstat(source.get(), &info) != 0) return posix::StatusFromErrno(errno, from);
   if (!S_ISREG(info.st_mode)) return FileStatus::Error(vb_error::kPathFileAccessError);
   if (FileStatus target = CheckTarget(to, overwrite); !target.ok()) return target;
+  struct stat existing;
+  const bool replacing = ::stat(to.c_str(), &existing) == 0;
 
   FileResult<Temporary> created = CreateTemporary(to);
   if (!created.ok()) return created.status();
   const Temporary& temporary = created.value();
-  int error = FillTemporary(source.get(), info, temporary.fd.get());
+  int error = FillTemporary(source.get(), info, temporary.fd.get(),
+                            flush == CopyFlush::kAlways || replacing);
   if (error == 0) error = PutInPlace(temporary.path, to, overwrite);
   if (error == 0) return FileStatus::Success();
   ::unlink(temporary.path.c_str());
