@@ -242,10 +242,12 @@ QWidget* MainWindow::BuildLowerPane() {
   sample_->setToolTip(Msg(messages_, "sample.char_positions_note"));
   sample_layout->addWidget(sample_);
   connect(sample_, &QLineEdit::selectionChanged, this, [this] {
-    const std::string status =
-        SampleSelectionStatus(messages_, S(sample_->text()),
-                              static_cast<std::size_t>(std::max(0, sample_->selectionStart())),
-                              static_cast<std::size_t>(sample_->selectedText().size()));
+    const QString text = sample_->text();
+    const int start = std::max(0, sample_->selectionStart());
+    const std::size_t first = CharPosition(text, start);
+    const std::size_t length =
+        CharPosition(text, start + sample_->selectedText().size()) - first;
+    const std::string status = SampleSelectionStatus(messages_, S(text), first, length);
     if (!status.empty()) status_->setText(Q(status));
   });
   layout->addWidget(sample_frame_);
@@ -311,12 +313,12 @@ void MainWindow::ShowActionOrder() {
 
 void MainWindow::OpenPatternPicker(QLineEdit* field) {
   PatternPickerDialog dialog(messages_, S(field->text()),
-                             static_cast<std::size_t>(field->cursorPosition()), this);
+                             CharPosition(field->text(), field->cursorPosition()), this);
   if (dialog.exec() != QDialog::Accepted) return;
   const FieldUpdate update = dialog.FieldAfter();
   if (update.clipboard) QApplication::clipboard()->setText(Q(*update.clipboard));
   field->setText(Q(update.text));
-  field->setCursorPosition(static_cast<int>(update.cursor));
+  field->setCursorPosition(Utf16Offset(field->text(), update.cursor));
   ControlChanged(S(field->objectName()), update.text);
 }
 

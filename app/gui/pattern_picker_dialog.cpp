@@ -25,11 +25,6 @@ CatalogueLanguage CatalogueLanguageOf(const MessageTable& messages) {
                                                   : CatalogueLanguage::kEnglish;
 }
 
-// The characters before a field's cursor (Qt counts UTF-16 units).
-std::size_t CharsBefore(const QString& text, int cursor) {
-  return static_cast<std::size_t>(text.left(cursor).toUcs4().size());
-}
-
 }  // namespace
 
 PatternPickerDialog::PatternPickerDialog(const MessageTable& messages,
@@ -107,7 +102,7 @@ PatternPickerDialog::PatternPickerDialog(const MessageTable& messages,
   connect(modes_, &QButtonGroup::idClicked, this,
           [this](int mode) { SetMode(static_cast<InsertMode>(mode)); });
   connect(manual_, &QLineEdit::textEdited, this, [this](const QString& text) {
-    picker_.SetManualText(S(text), CharsBefore(text, manual_->cursorPosition()));
+    picker_.SetManualText(S(text), CharPosition(text, manual_->cursorPosition()));
   });
   connect(clear, &QPushButton::clicked, this, [this] {
     picker_.ClearManualText();
@@ -155,7 +150,7 @@ void PatternPickerDialog::ChooseRow(int row) {
 
 void PatternPickerDialog::ShowManualText() {
   manual_->setText(Q(picker_.manual_text()));
-  manual_->setCursorPosition(static_cast<int>(picker_.manual_cursor()));
+  manual_->setCursorPosition(Utf16Offset(manual_->text(), picker_.manual_cursor()));
 }
 
 bool PatternPickerDialog::Ok() {

@@ -175,8 +175,8 @@ void ManualRenameDialog::SelectByCursor() {
     return;
   }
   if (request_.cursor.change_cursor_start) {
-    const int start = std::max(0, request_.cursor.start_position - 1);
-    const int end = std::max(start, request_.cursor.end_position);
+    const int start = Utf16Offset(text, std::max(0, request_.cursor.start_position - 1));
+    const int end = std::max(start, Utf16Offset(text, std::max(0, request_.cursor.end_position)));
     name_->setSelection(start, end - start);
     return;
   }

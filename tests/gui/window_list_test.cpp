@@ -310,6 +310,21 @@ TEST_F(WindowListTest, TheCaptionAndTheProgressBarAgreeDuringARun) {
   EXPECT_LT(title_changes, 1000);
 }
 
+// Qt counts an emoji as two positions, the core as one character: a
+// selection in the sample after an emoji names the characters the user sees.
+TEST_F(WindowListTest, ASampleSelectionAfterAnEmojiCountsCharacters) {
+  dir.WriteFile("\xF0\x9F\x98\x80 photo.txt", "x");
+  Open(0);
+  window->SampleTick(true);
+  QLineEdit* sample = window->sample_field();
+  ASSERT_EQ(sample->text().toStdString(), "\xF0\x9F\x98\x80 photo.txt");
+  sample->setSelection(3, 5);  // UTF-16: the emoji is 0 and 1, the blank 2
+  const std::string status = window->status_label()->text().toStdString();
+  EXPECT_NE(status.find("\"photo\""), std::string::npos) << status;
+  EXPECT_NE(status.find(" 3 "), std::string::npos) << status;
+  EXPECT_NE(status.find(" 7 "), std::string::npos) << status;
+}
+
 // Another thread makes, renames and removes files while the window fills and
 // runs: the files that stay put are always all listed, and a run renames
 // exactly the rows that were selected when it was confirmed.
