@@ -1,5 +1,6 @@
 #include "sort_order_dialog.h"
 
+#include <QAction>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -51,6 +52,15 @@ SortOrderDialog::SortOrderDialog(OptionStore& options, const MessageTable& messa
   buttons->addButton(Msg(messages, "file_exists.button_ok"), QDialogButtonBox::AcceptRole);
   buttons->addButton(Msg(messages, "run.button_cancel"), QDialogButtonBox::RejectRole);
   layout->addWidget(buttons);
+  // `mnuMoveUp`, `mnuMoveDown`: the list's own menu.
+  list_->setContextMenuPolicy(Qt::ActionsContextMenu);
+  auto* move_up = new QAction(Msg(messages, "order.menu_move_up"), list_);
+  move_up->setObjectName("mnuMoveUp");
+  auto* move_down = new QAction(Msg(messages, "order.menu_move_down"), list_);
+  move_down->setObjectName("mnuMoveDown");
+  list_->addActions({move_up, move_down});
+  connect(move_up, &QAction::triggered, this, &SortOrderDialog::MoveUp);
+  connect(move_down, &QAction::triggered, this, &SortOrderDialog::MoveDown);
   connect(up, &QPushButton::clicked, this, &SortOrderDialog::MoveUp);
   connect(down, &QPushButton::clicked, this, &SortOrderDialog::MoveDown);
   connect(reset, &QPushButton::clicked, this, &SortOrderDialog::Default);

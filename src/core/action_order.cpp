@@ -73,7 +73,11 @@ std::string ActionDisplayName(int code, const MessageTable& messages) {
   return std::string(messages.Text(kNameKeys[code - 1]));
 }
 
-SortOrderEditor::SortOrderEditor(const OptionStore& options) : order_(ReadActionOrder(options)) {}
+SortOrderEditor::SortOrderEditor(const OptionStore& options) : order_(ReadActionOrder(options)) {
+  for (std::size_t i = 0; i < stored_.size(); ++i) {
+    stored_[i] = options.GetOption(KeyOf(i + 1), kSection, std::to_string(i + 1));
+  }
+}
 
 int SortOrderEditor::CurrentAction(std::size_t row) const {
   return row < order_.size() ? order_[row] : 0;
@@ -86,12 +90,14 @@ bool SortOrderEditor::Changed(std::size_t row) const {
 bool SortOrderEditor::MoveUp(std::size_t row) {
   if (row == 0 || row >= order_.size()) return false;
   std::swap(order_[row], order_[row - 1]);
+  std::swap(stored_[row], stored_[row - 1]);
   return true;
 }
 
 bool SortOrderEditor::MoveDown(std::size_t row) {
   if (row + 1 >= order_.size()) return false;
   std::swap(order_[row], order_[row + 1]);
+  std::swap(stored_[row], stored_[row + 1]);
   return true;
 }
 
@@ -104,10 +110,16 @@ bool SortOrderEditor::ResetToDefault(Interaction& interaction, const MessageTabl
   box.topic = Topic::kOther;
   if (interaction.ShowMessage(box) != Answer::kYes) return false;
   order_ = DefaultActionOrder();
+  for (std::size_t i = 0; i < stored_.size(); ++i) stored_[i] = std::to_string(i + 1);
   return true;
 }
 
-void SortOrderEditor::Store(OptionStore& options) const { StoreActionOrder(options, order_); }
+void SortOrderEditor::Store(OptionStore& options) const {
+  for (std::size_t i = 0; i < stored_.size(); ++i) {
+    const std::string value = order_[i] != 0 ? std::to_string(order_[i]) : stored_[i];
+    options.SaveOption(KeyOf(i + 1), kSection, value);
+  }
+}
 
 std::string ActionOrderSummary(const ActionOrder& order, const std::function<bool(int)>& ticked,
                                const MessageTable& messages) {

@@ -76,11 +76,15 @@ class SortOrderEditor {
   // default order. Returns whether it did.
   bool ResetToDefault(Interaction& interaction, const MessageTable& messages);
 
-  // "OK": stores the order of the rows in the options.
+  // "OK": stores the order of the rows in the options. Kept: a row whose
+  // stored value is no action (outside 1 to 10) stores that value as it
+  // was read, wherever the row has moved.
   void Store(OptionStore& options) const;
 
  private:
   ActionOrder order_;
+  // Each row's value as the options held it, moved with its row.
+  std::array<std::string, kActionCount> stored_;
 };
 
 }  // namespace tarnwick

@@ -193,6 +193,9 @@ constexpr MessageEntry kEntries[] = {
     {0, "order.column_current_action", "Current Action", "Aktuelle Aktion"},
     {0, "order.column_default_action", "Default action", "Standardaktion"},
     {0, "order.button_default", "Default", "Standard"},
+    // The list's menu; its words are ours.
+    {0, "order.menu_move_up", "Move up", "Nach oben"},
+    {0, "order.menu_move_down", "Move down", "Nach unten"},
     {0, "order.changed_indicator", "Bold = Order changed", "Fett = Reihenfolge geändert"},
     {0, "order.hint_double_click", "Doubleclick to change the order of the actions",
      "Doppelklicken, um die Reihenfolge der Aktionen zu ändern"},

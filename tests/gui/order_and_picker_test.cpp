@@ -1,5 +1,6 @@
 // The order dialogue's moves, Default and OK; the placeholder picker's search
 // and insert modes.
+#include <QAction>
 #include <QLineEdit>
 #include <QTest>
 #include <QTreeWidget>
@@ -62,6 +63,25 @@ TEST_F(OrderDialogTest, MovesSwapNeighboursAndOkStoresTheOrder) {
   dialog.Ok();
   const ActionOrder stored = ReadActionOrder(options);
   EXPECT_EQ(stored, (ActionOrder{2, 1, 3, 5, 4, 6, 7, 8, 9, 10}));
+}
+
+// The list's menu moves rows as the buttons do; a stored value that is no
+// action keeps its text through the dialogue, wherever its row goes.
+TEST_F(OrderDialogTest, TheMenuMovesRowsAndAValueOutsideTheRangeIsKept) {
+  options.SaveOption("SortOrderInternal3", "Options", "42");
+  SortOrderDialog dialog(options, messages, questions);
+  EXPECT_EQ(Current(dialog, 2), "");
+  dialog.list()->setCurrentItem(dialog.list()->topLevelItem(2));
+  QAction* down = dialog.findChild<QAction*>("mnuMoveDown");
+  ASSERT_NE(down, nullptr);
+  EXPECT_TRUE(dialog.list()->actions().contains(down));
+  down->trigger();
+  EXPECT_EQ(Current(dialog, 2), "Cut left");
+  dialog.findChild<QAction*>("mnuMoveUp")->trigger();
+  dialog.findChild<QAction*>("mnuMoveDown")->trigger();
+  dialog.Ok();
+  EXPECT_EQ(options.GetOption("SortOrderInternal4", "Options", ""), "42");
+  EXPECT_EQ(options.GetOption("SortOrderInternal3", "Options", ""), "4");
 }
 
 TEST_F(OrderDialogTest, DefaultAsksAndCancelStoresNothing) {
