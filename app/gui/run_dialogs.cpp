@@ -1,6 +1,7 @@
 #include "run_dialogs.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -9,7 +10,10 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 #include "base/text.h"
+#include "core/manual_rename.h"
 #include "qt_text.h"
 
 namespace tarnwick::gui {
@@ -122,69 +126,123 @@ ManualRenameDialog::ManualRenameDialog(const ManualRenameRequest& request,
                                        const MessageTable& messages, Interaction& questions,
                                        QWidget* parent)
     : QDialog(parent), request_(request), messages_(messages), questions_(questions) {
+  setObjectName("frmRenameDialog");
   setWindowTitle(Msg(messages, "manual.title"));
   answer_.file_name = request.original_name;
   answer_.cursor = request.cursor;
   answer_.cancelled = true;
   auto* layout = new QVBoxLayout(this);
-  layout->addWidget(Note(Msg(messages, "manual.note"), this));
-  auto* original = new QLabel(Q(request.original_name), this);
-  original->setTextInteractionFlags(Qt::TextSelectableByMouse);
-  layout->addWidget(original);
+  QLabel* note = Note(Msg(messages, "manual.note"), this);
+  note->setObjectName("lblNote");
+  layout->addWidget(note);
+  original_ = new QLabel(Q(request.original_name), this);
+  original_->setObjectName("lblOriginalName");
+  original_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  layout->addWidget(original_);
   name_ = new QLineEdit(Q(request.file_name), this);
   name_->setObjectName("txtFileName");
   name_->setMaxLength(255);
   layout->addWidget(name_);
   auto* resets = new QHBoxLayout;
   auto* to_original = new QPushButton(Msg(messages, "manual.reset_to_original"), this);
+  to_original->setObjectName("cmdReset");
   auto* to_start = new QPushButton(Msg(messages, "manual.reset_to_dialog_start"), this);
+  to_start->setObjectName("cmdResetToRenamed");
   resets->addWidget(to_original);
   resets->addWidget(to_start);
   layout->addLayout(resets);
+  layout->addLayout(BuildCursorRow());
   select_all_ = new QCheckBox(Msg(messages, "manual.select_whole_filename"), this);
+  select_all_->setObjectName("chkSelectAll");
   select_all_->setChecked(request.cursor.select_all);
   layout->addWidget(select_all_);
-  to_extension_ = new QCheckBox(Msg(messages, "manual.select_filename"), this);
+  to_extension_ = new QCheckBox(Msg(messages, "manual.to_extension"), this);
+  to_extension_->setObjectName("chkExtension");
   to_extension_->setChecked(request.cursor.to_extension);
   layout->addWidget(to_extension_);
   auto* buttons = new QDialogButtonBox(this);
   auto* ok =
       buttons->addButton(Msg(messages, "file_exists.button_ok"), QDialogButtonBox::AcceptRole);
+  ok->setObjectName("cmdOK");
   auto* cancel =
       buttons->addButton(Msg(messages, "run.button_cancel"), QDialogButtonBox::RejectRole);
+  cancel->setObjectName("cmdCancel");
   ok->setDefault(true);
   layout->addWidget(buttons);
-  connect(to_original, &QPushButton::clicked, this,
-          [this] { name_->setText(Q(request_.original_name)); });
+  connect(to_original, &QPushButton::clicked, this, [this] {
+    name_->setText(Q(request_.original_name));
+    ApplySelection();
+  });
   connect(to_start, &QPushButton::clicked, this, [this] { name_->setText(Q(request_.file_name)); });
   connect(ok, &QPushButton::clicked, this, [this] { Ok(); });
   connect(cancel, &QPushButton::clicked, this, [this] { CancelRenaming(); });
+  for (QCheckBox* tick : {cursor_, select_all_, to_extension_}) {
+    connect(tick, &QCheckBox::toggled, this, [this] { ApplySelection(); });
+  }
+  for (QComboBox* box : {start_, end_}) {
+    connect(box, &QComboBox::currentIndexChanged, this, [this] { ApplySelection(); });
+  }
   name_->setFocus();
-  SelectByCursor();
+  ApplySelection();
 }
 
-void ManualRenameDialog::SelectByCursor() {
+// `chkCursor` "Select filename", from `cboStartPos` to `cboEndPos`: caret
+// positions 0 to the length of the name.
+QHBoxLayout* ManualRenameDialog::BuildCursorRow() {
+  auto* row = new QHBoxLayout;
+  cursor_ = new QCheckBox(Msg(messages_, "manual.select_filename"), this);
+  cursor_->setObjectName("chkCursor");
+  cursor_->setChecked(request_.cursor.change_cursor_start);
+  start_ = new QComboBox(this);
+  start_->setObjectName("cboStartPos");
+  end_ = new QComboBox(this);
+  end_->setObjectName("cboEndPos");
+  const int length = static_cast<int>(CharPosition(name_->text(), name_->text().size()));
+  for (int position = 0; position <= length; ++position) {
+    start_->addItem(QString::number(position));
+    end_->addItem(QString::number(position));
+  }
+  start_->setCurrentIndex(std::clamp(request_.cursor.start_position, 0, length));
+  end_->setCurrentIndex(std::clamp(request_.cursor.end_position, 0, length));
+  from_ = new QLabel(Msg(messages_, "manual.from"), this);
+  from_->setObjectName("lblFrom");
+  to_ = new QLabel(Msg(messages_, "manual.to"), this);
+  to_->setObjectName("lblTo");
+  row->addWidget(cursor_);
+  row->addWidget(from_);
+  row->addWidget(start_);
+  row->addWidget(to_);
+  row->addWidget(end_);
+  row->addStretch();
+  return row;
+}
+
+// The ticks decide which controls take part, and the selection follows at
+// once; the positions are the core's, in characters.
+void ManualRenameDialog::ApplySelection() {
+  const bool all = select_all_->isChecked();
+  cursor_->setEnabled(!all);
+  to_extension_->setEnabled(!all);
+  const bool by_position = !all && cursor_->isChecked();
+  for (QWidget* widget : std::initializer_list<QWidget*>{start_, end_, from_, to_}) {
+    widget->setEnabled(by_position);
+  }
   const QString text = name_->text();
-  if (select_all_->isChecked()) {
-    name_->selectAll();
-    return;
-  }
-  if (to_extension_->isChecked()) {
-    const qsizetype dot = text.lastIndexOf('.');
-    name_->setSelection(0, dot > 0 ? dot : text.size());
-    return;
-  }
-  if (request_.cursor.change_cursor_start) {
-    const int start = Utf16Offset(text, std::max(0, request_.cursor.start_position - 1));
-    const int end = std::max(start, Utf16Offset(text, std::max(0, request_.cursor.end_position)));
+  const NameSelection selection = ManualRenameSelection(CursorAtClose(), S(text));
+  const int start = Utf16Offset(text, static_cast<std::size_t>(selection.start));
+  const int end = Utf16Offset(text, static_cast<std::size_t>(selection.start + selection.length));
+  if (end > start) {
     name_->setSelection(start, end - start);
-    return;
+  } else {
+    name_->setCursorPosition(start);
   }
-  name_->setCursorPosition(static_cast<int>(text.size()));
 }
 
 ManualRenameCursor ManualRenameDialog::CursorAtClose() const {
-  ManualRenameCursor cursor = request_.cursor;
+  ManualRenameCursor cursor;
+  cursor.change_cursor_start = cursor_->isChecked();
+  cursor.start_position = std::max(0, start_->currentIndex());
+  cursor.end_position = std::max(0, end_->currentIndex());
   cursor.select_all = select_all_->isChecked();
   cursor.to_extension = to_extension_->isChecked();
   return cursor;
@@ -203,15 +261,13 @@ bool ManualRenameDialog::Ok() {
   return true;
 }
 
-bool ManualRenameDialog::CancelRenaming() {
-  const Answer answer =
-      questions_.ShowMessage({std::string(messages_.Text("manual.title_cancel_action")),
-                              std::string(messages_.Text("manual.really_cancel")), Buttons::kYesNo,
-                              MessageIcon::kQuestion, Topic::kConfirmCancelRename});
-  if (answer != Answer::kYes) return false;
+// The question "Do you really want to cancel the renaming?" is the run's,
+// asked once the dialogue has closed; here Cancel only gives the present
+// name back.
+void ManualRenameDialog::CancelRenaming() {
+  name_->setText(original_->text());
   answer_ = {true, request_.original_name, CursorAtClose()};
   QDialog::reject();
-  return true;
 }
 
 }  // namespace tarnwick::gui

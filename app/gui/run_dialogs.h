@@ -6,6 +6,9 @@
 #include "shell/message_table.h"
 
 class QCheckBox;
+class QComboBox;
+class QHBoxLayout;
+class QLabel;
 class QLineEdit;
 
 namespace tarnwick::gui {
@@ -66,21 +69,28 @@ class ManualRenameDialog : public QDialog {
   QLineEdit* name_field() const { return name_; }
 
   bool Ok();
-  // Cancel asks first; returns whether the dialogue closed.
-  bool CancelRenaming();
+  // Closes with the present name; the run asks whether to stop.
+  void CancelRenaming();
 
  protected:
   void reject() override { CancelRenaming(); }
 
  private:
-  void SelectByCursor();
+  QHBoxLayout* BuildCursorRow();
+  void ApplySelection();
   ManualRenameCursor CursorAtClose() const;
 
   ManualRenameRequest request_;
   const MessageTable& messages_;
   Interaction& questions_;
   ManualRenameAnswer answer_;
+  QLabel* original_ = nullptr;
   QLineEdit* name_ = nullptr;
+  QCheckBox* cursor_ = nullptr;
+  QComboBox* start_ = nullptr;
+  QComboBox* end_ = nullptr;
+  QLabel* from_ = nullptr;
+  QLabel* to_ = nullptr;
   QCheckBox* select_all_ = nullptr;
   QCheckBox* to_extension_ = nullptr;
 };

@@ -22,7 +22,7 @@ SortOrderDialog::SortOrderDialog(OptionStore& options, const MessageTable& messa
       questions_(questions),
       editor_(options) {
   setWindowTitle(Msg(messages, "order.title"));
-  resize(560, 360);
+  setMinimumSize(980, 380);
   auto* layout = new QVBoxLayout(this);
   auto* body = new QHBoxLayout;
   list_ = new QTreeWidget(this);

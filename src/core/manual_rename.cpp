@@ -22,7 +22,7 @@ constexpr std::string_view kSection = "ManualRename";
 
 // The same rejected answer this often in a row means nobody can type a
 // better one (a front end that answers by default): the renaming is then
-// cancelled as if confirmed, instead of asking for ever.
+// cancelled, with a box that says why, instead of asking for ever.
 constexpr int kMaxRepeatedRejections = 10;
 
 bool ReadFlag(const OptionStore& options, std::string_view key) {
@@ -135,6 +135,7 @@ std::string RenameFile(const PipelineEnv& env, RowExpander& expander, std::strin
     repeated = answer.file_name == last_rejected ? repeated + 1 : 1;
     last_rejected = std::move(answer.file_name);
     if (repeated >= kMaxRepeatedRejections) {
+      ShowBox(env, "manual.cancelled_after_rejections", MessageIcon::kExclamation);
       env.app.CancelRun = true;
       return std::string(name);
     }

@@ -220,6 +220,14 @@ constexpr MessageEntry kEntries[] = {
     {0, "manual.really_cancel", "Do you really want to cancel the renaming?",
      "Möchten Sie das Umbenennen wirklich abbrechen?"},
     {0, "manual.title_cancel_action", "Cancel action", "Aktion abbrechen"},
+    // Our own words: the caption of `chkExtension`, and why a run stops when
+    // the same refused name comes back again and again.
+    {0, "manual.to_extension", "Only up to the extension", "Nur bis zur Dateiendung"},
+    {0, "manual.cancelled_after_rejections",
+     "The same name was refused ten times in a row, so the renaming is cancelled. The file "
+     "keeps its name.",
+     "Derselbe Name wurde zehnmal hintereinander abgelehnt, daher wird das Umbenennen "
+     "abgebrochen. Die Datei behält ihren Namen."},
 };
 
 }  // namespace

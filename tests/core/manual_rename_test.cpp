@@ -69,6 +69,17 @@ TEST_F(ManualRenameTest, CancelAsksAndNoBringsTheDialogueBack) {
   EXPECT_EQ(interaction.asked().back().title, "Cancel action");
 }
 
+// Nobody can type a better name (a front end that answers by default): the
+// run stops after the same refusal ten times, and a box says why.
+TEST_F(ManualRenameTest, TenIdenticalRefusalsCancelWithAMessage) {
+  interaction.SetDefault(QuestionKind::kManualRename, Typed("still?bad.txt"));
+  interaction.SetDefault(QuestionKind::kMessageBox, Answer::kOk);
+  EXPECT_EQ(Rename("orig.txt"), "orig.txt");
+  EXPECT_TRUE(app.CancelRun);
+  EXPECT_EQ(DialogueTexts().size(), 10u);
+  EXPECT_NE(interaction.asked().back().text.find("refused ten times"), std::string::npos);
+}
+
 TEST_F(ManualRenameTest, EarlyPositionShowsANameLaterActionsStillChange) {
   ActionOrder order = DefaultActionOrder();
   std::swap(order[0], order[9]);  // manual edit first, complete name last

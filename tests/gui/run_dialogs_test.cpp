@@ -3,6 +3,7 @@
 #include "run_dialogs.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
@@ -74,20 +75,19 @@ TEST_F(RunDialogsTest, FileExistsSkipAndCancelKeepTheTick) {
   EXPECT_TRUE(notices.asked().empty());
 }
 
-TEST_F(RunDialogsTest, ManualRenameCancelAsksAndGivesBackTheOriginalName) {
+// Cancel asks nothing here (the run asks once the dialogue is closed) and
+// gives the present name back.
+TEST_F(RunDialogsTest, ManualRenameCancelGivesBackTheOriginalNameWithoutAsking) {
   ManualRenameRequest request;
   request.file_name = "IMG_old.txt";
   request.original_name = "old.txt";
   request.cursor.to_extension = true;
   ManualRenameDialog dialog(request, messages, notices);
   EXPECT_EQ(dialog.name_field()->selectedText(), "IMG_old");
-
-  notices.Then(Answer::kNo).Then(Answer::kYes);
-  EXPECT_FALSE(dialog.CancelRenaming());
-  EXPECT_TRUE(dialog.CancelRenaming());
+  dialog.CancelRenaming();
   EXPECT_TRUE(dialog.answer().cancelled);
   EXPECT_EQ(dialog.answer().file_name, "old.txt");
-  EXPECT_TRUE(notices.failures().empty());
+  EXPECT_TRUE(notices.asked().empty());
 
   ManualRenameDialog edited(request, messages, notices);
   edited.name_field()->setText("new name.txt");
@@ -95,6 +95,50 @@ TEST_F(RunDialogsTest, ManualRenameCancelAsksAndGivesBackTheOriginalName) {
   EXPECT_FALSE(edited.answer().cancelled);
   EXPECT_EQ(edited.answer().file_name, "new name.txt");
   EXPECT_TRUE(edited.answer().cursor.to_extension);
+}
+
+// "Select filename" with its two positions (caret positions, counted in
+// characters), the whole name, the extension tick, and the reset buttons.
+TEST_F(RunDialogsTest, ManualRenameSelectsByPositionAndResetsApplyTheSelection) {
+  ManualRenameRequest request;
+  request.file_name = "\xF0\x9F\x98\x80 Beach 2024.jpg";  // an emoji first
+  request.original_name = "beach.jpg";
+  request.cursor.change_cursor_start = true;
+  request.cursor.start_position = 2;
+  request.cursor.end_position = 7;
+  ManualRenameDialog dialog(request, messages, notices);
+  EXPECT_EQ(dialog.name_field()->selectedText(), "Beach");
+  auto* start = dialog.findChild<QComboBox*>("cboStartPos");
+  auto* end = dialog.findChild<QComboBox*>("cboEndPos");
+  ASSERT_NE(start, nullptr);
+  ASSERT_NE(end, nullptr);
+  EXPECT_EQ(start->count(), 17);  // 0 to the 16 characters of the name
+  EXPECT_TRUE(start->isEnabled());
+  end->setCurrentIndex(12);
+  EXPECT_EQ(dialog.name_field()->selectedText(), "Beach 2024");
+
+  auto* whole = dialog.findChild<QCheckBox*>("chkSelectAll");
+  whole->setChecked(true);
+  EXPECT_EQ(dialog.name_field()->selectedText(), dialog.name_field()->text());
+  EXPECT_FALSE(start->isEnabled());
+  whole->setChecked(false);
+
+  dialog.findChild<QCheckBox*>("chkCursor")->setChecked(false);
+  dialog.findChild<QCheckBox*>("chkExtension")->setChecked(true);
+  dialog.findChild<QPushButton*>("cmdReset")->click();
+  EXPECT_EQ(dialog.name_field()->text(), "beach.jpg");
+  EXPECT_EQ(dialog.name_field()->selectedText(), "beach");
+  dialog.findChild<QPushButton*>("cmdResetToRenamed")->click();
+  EXPECT_EQ(dialog.name_field()->text().toStdString(), request.file_name);
+
+  dialog.findChild<QCheckBox*>("chkCursor")->setChecked(true);
+  ASSERT_TRUE(dialog.Ok());
+  const ManualRenameCursor cursor = dialog.answer().cursor;
+  EXPECT_TRUE(cursor.change_cursor_start);
+  EXPECT_EQ(cursor.start_position, 2);
+  EXPECT_EQ(cursor.end_position, 12);
+  EXPECT_TRUE(cursor.to_extension);
+  EXPECT_FALSE(cursor.select_all);
 }
 
 }  // namespace
