@@ -7,6 +7,7 @@
 #include <string>
 
 #include "cli_command.h"
+#include "filelist/file_date_type.h"
 #include "media/media_readers.h"
 #include "persist/option_store.h"
 #include "placeholders/date_tokens.h"
@@ -51,10 +52,10 @@ ClockReading LocalReading(std::time_t seconds) {
 std::string ListDate(const OptionStore& options, const std::filesystem::path& path) {
   const auto times = GetFileTimes(path);
   if (!times.ok()) return {};
-  const std::string type = options.GetOption("FileDateType", "Options", "Last Modified");
+  const FileDateKind kind = ReadFileDateKind(options);
   FileTime stamp = times.value().created;
-  if (type == "Last Modified") stamp = times.value().last_write;
-  if (type == "Last Access") stamp = times.value().last_access;
+  if (kind == FileDateKind::kLastWrite) stamp = times.value().last_write;
+  if (kind == FileDateKind::kLastAccess) stamp = times.value().last_access;
   const ClockReading r = LocalReading(std::chrono::system_clock::to_time_t(
       std::chrono::time_point_cast<std::chrono::system_clock::duration>(stamp)));
   const DateValue date{r.year, r.month, r.day, r.hour, r.minute, r.second};

@@ -1,12 +1,14 @@
 #include "desktop_integration.h"
 
 #include <QCoreApplication>
+#include <QDesktopServices>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
 #include <QSaveFile>
 #include <QStandardPaths>
+#include <QUrl>
 
 #include "qt_text.h"
 
@@ -86,6 +88,11 @@ bool RegisterSettingsFileType(const std::string& type_name, bool refresh_caches)
     StartDetached("update-desktop-database", {ApplicationsFolder()});
   }
   return true;
+}
+
+bool OpenWithDesktop(const std::string& path) {
+  if (path.empty()) return false;
+  return QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(path)));
 }
 
 }  // namespace tarnwick::gui

@@ -28,4 +28,8 @@ bool RegisterSettingsFileType(const std::string& type_name, bool refresh_caches 
 std::string SettingsMimeTypePath();
 std::string ProgramDesktopFilePath();
 
+// Opens a file or folder with the desktop's handler for it; false when no
+// handler answered.
+bool OpenWithDesktop(const std::string& path);
+
 }  // namespace tarnwick::gui

@@ -1,6 +1,7 @@
 // The dialogues `tarnwick --screenshot OUT.png --dialog NAME FILE` can draw:
 // one line each, in the order the usage lists them.
 #include <QLineEdit>
+#include <QTabWidget>
 #include <filesystem>
 #include <map>
 
@@ -38,7 +39,14 @@ std::unique_ptr<QDialog> MakeOptions(DialogShotContext& c) {
       {"LogFilePath", c.window.env().state.DefaultLogFolder + "/Tarnwick.log"},
       {"UndoFilePath", c.window.env().state.DefaultUndoFolder}};
   return std::make_unique<OptionsDialog>(c.options, c.messages, c.window.interaction(), defaults,
-                                         &c.window);
+                                         &c.window.env(), &c.window);
+}
+
+// The options on one of their later pages.
+std::unique_ptr<QDialog> MakeOptionsPage(DialogShotContext& c, int page) {
+  std::unique_ptr<QDialog> dialog = MakeOptions(c);
+  if (auto* tabs = dialog->findChild<QTabWidget*>()) tabs->setCurrentIndex(page);
+  return dialog;
 }
 
 std::unique_ptr<QDialog> MakeActionOrder(DialogShotContext& c) {
@@ -120,6 +128,12 @@ std::unique_ptr<QDialog> MakeRenameFromText(DialogShotContext& c) {
 std::span<const DialogShot> DialogShots() {
   static const DialogShot kShots[] = {
       {"options", "the options", MakeOptions},
+      {"options-renaming", "the options, their renaming page",
+       [](DialogShotContext& c) { return MakeOptionsPage(c, 1); }},
+      {"options-log-undo", "the options, their log and undo page",
+       [](DialogShotContext& c) { return MakeOptionsPage(c, 2); }},
+      {"options-program", "the options, their program page",
+       [](DialogShotContext& c) { return MakeOptionsPage(c, 3); }},
       {"action-order", "the order of the renaming actions", MakeActionOrder},
       {"placeholder-picker", "the placeholder list", MakePlaceholderPicker},
       {"start-renaming", "the question before a run", MakeStartRenaming},

@@ -56,6 +56,10 @@ QVariant FileListModel::data(const QModelIndex& index, int role) const {
     return {};
   }
   if (role == Qt::DisplayRole) return Q(list_.Text(row, column));
+  if (role == Qt::ToolTipRole && file_tooltips_) {
+    return Q(list_.Path(row)) + "\n" + Q(list_.Text(row, file_column::kSize)) + "    " +
+           Q(list_.Text(row, file_column::kDate));
+  }
   if (role == Qt::DecorationRole && decorated_ && column == file_column::kName) {
     return QApplication::style()->standardIcon(QStyle::SP_FileIcon);
   }

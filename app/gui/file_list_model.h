@@ -30,6 +30,8 @@ class FileListModel : public QAbstractTableModel {
   void NewNamesChanged(int first, int last);
   // Gives the names a file icon, for the symbols view.
   void SetDecorated(bool decorated);
+  // `ShowTooltips`: a row's tooltip tells its file's path, size and date.
+  void SetFileTooltips(bool shown) { file_tooltips_ = shown; }
 
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& parent = {}) const override;
@@ -42,6 +44,7 @@ class FileListModel : public QAbstractTableModel {
   int shown_rows_ = 0;
   std::array<QString, file_column::kCount + 1> headings_;
   bool decorated_ = false;
+  bool file_tooltips_ = true;
 };
 
 }  // namespace tarnwick::gui

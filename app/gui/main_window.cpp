@@ -90,6 +90,7 @@ MainWindow::MainWindow(OptionStore& options, const MessageTable& messages, Inter
   connect(&refill_timer_, &QTimer::timeout, this, &MainWindow::RefillFromWatch);
   ShowSettings();
   ShowActionOrder();
+  ApplyTooltipOptions();
 }
 
 MainWindow::~MainWindow() {
@@ -553,6 +554,13 @@ void MainWindow::ApplySampleRate() {
   const int interval = SampleIntervalMilliseconds(rate_);
   if (interval > 0) change_timer_.setInterval(interval);
   change_timer_.start();
+}
+
+void MainWindow::ApplyTooltipOptions() {
+  model_->SetFileTooltips(options_.GetOption("ShowTooltips", "Options", "1") != "0");
+  const bool help = options_.GetOption("AdvancedToolTip", "Options", "1") != "0";
+  const QString tip = help ? Msg(messages_, "main.tip.text_field") : QString();
+  for (QLineEdit* field : controls_->text_fields()) field->setToolTip(tip);
 }
 
 void MainWindow::SampleTick(bool force) {

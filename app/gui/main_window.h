@@ -84,6 +84,8 @@ class MainWindow : public QMainWindow, public ProgressView {
   void ShowSettings();
   void RefreshControlStates();
   void ApplySampleRate();
+  // `ShowTooltips` and `AdvancedToolTip`, read anew.
+  void ApplyTooltipOptions();
   // One tick of `tmrChange`. `force`: also when the window is not in front.
   void SampleTick(bool force = false);
   // Computes the whole "New name" column now (tests, screenshots).

@@ -9,6 +9,7 @@
 #include "file_list_model.h"
 #include "filelist/column_headings.h"
 #include "main_window.h"
+#include "persist/log_options.h"
 #include "options_dialog.h"
 #include "pattern_picker_dialog.h"
 #include "playlist_dialog.h"
@@ -89,7 +90,7 @@ void MainWindow::BuildMenus() {
   tools->addAction(Msg(messages_, "main.menu.show_log"), QKeySequence(Qt::Key_F7), this,
                    [this] { OpenPath(RunLog(env_).LogFilePath()); });
   tools->addAction(Msg(messages_, "main.menu.undo_folder"), QKeySequence(Qt::Key_F8), this,
-                   [this] { OpenPath(log_state_.DefaultUndoFolder); });
+                   [this] { OpenPath(UndoFolderPath(options_, log_state_)); });
 
   QMenu* help = menuBar()->addMenu(Msg(messages_, "main.menu.help"));
   help->addAction(Msg(messages_, "main.menu.placeholder_list"), this, [this] {
@@ -103,7 +104,7 @@ void MainWindow::EditOptions() {
   const std::map<std::string, std::string> defaults = {
       {"LogFilePath", log_state_.DefaultLogFolder + "/Tarnwick.log"},
       {"UndoFilePath", log_state_.DefaultUndoFolder}};
-  OptionsDialog dialog(options_, messages_, *interaction_, defaults, this);
+  OptionsDialog dialog(options_, messages_, *interaction_, defaults, &env_, this);
   if (dialog.exec() != QDialog::Accepted) return;
   const std::string now = options_.GetOption("ContextMenu", "Options", "0");
   if (now != context_menu) {
@@ -112,6 +113,7 @@ void MainWindow::EditOptions() {
   model_->SetHeadings(ColumnHeadings(options_, messages_),
                       std::string(messages_.Text("result_list.column_new_name")));
   SetNewNameColumnShown(options_.GetOption("ShowNewNames", "Options", "1") != "0");
+  ApplyTooltipOptions();
   FillListFiles();
 }
 

@@ -1,18 +1,35 @@
 #include "options_dialog.h"
 
+#include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QFileInfo>
 #include <QFormLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QScrollArea>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 #include "base/text.h"
+#include "core/undo_runner.h"
+#include "desktop_integration.h"
+#include "filelist/file_size_text.h"
+#include "persist/log_file.h"
+#include "persist/log_options.h"
 #include "persist/option_store.h"
+#include "persist/undo_batch.h"
+#include "platform/files.h"
 #include "qt_text.h"
+#include "shell/option_choice.h"
 
 namespace tarnwick::gui {
 namespace {
@@ -37,7 +54,7 @@ const std::vector<OptionRow>& OptionRows() {
       {"JumpToLastSelectedFile", "0", K::kTick, "options.jump_to_last_selected", 0},
       {"ShowNewNames", "1", K::kTick, "main.menu.new_name_column", 0},
       {"FileDateType",
-       "options.file_date_created",
+       "options.file_date_last_modified",
        K::kChoice,
        "options.file_date_type",
        0,
@@ -56,8 +73,8 @@ const std::vector<OptionRow>& OptionRows() {
       {"DateSeperator", "-", K::kText, "options.date_separator", 1},
       {"TimeSeperator", "-", K::kText, "options.time_separator", 1},
       {"CountDirectories", "0", K::kTick, "options.count_directories", 1},
-      {"ResetCounterByDirectory", "1", K::kTick, "options.reset_counter_by_directory", 1},
-      {"ResetCounterByDate", "0", K::kTick, "options.reset_counter_by_date", 1},
+      {"ResetCounterByDirectory", "1", K::kRadio, "options.reset_counter_by_directory", 1},
+      {"ResetCounterByDate", "0", K::kRadio, "options.reset_counter_by_date", 1},
       {"IllegalCharReplacerActive", "0", K::kTick, "options.illegal_char_replacer", 1},
       {"IllegalCharReplacer", "", K::kText, "options.illegal_char_replacer", 1},
       {"SecureWindowsFolder", "0", K::kTick, "options.secure_windows_folder", 1},
@@ -114,17 +131,38 @@ const std::vector<OptionRow>& OptionRows() {
   return rows;
 }
 
+namespace {
+
+const OptionRow* RowOf(const std::string& key) {
+  for (const OptionRow& row : OptionRows()) {
+    if (key == row.key) return &row;
+  }
+  return nullptr;
+}
+
+std::vector<std::string_view> ChoiceKeys(const OptionRow& row) {
+  return {row.choices.begin(), row.choices.end()};
+}
+
+bool Contains(const std::vector<std::string>& keys, std::string_view key) {
+  return std::find(keys.begin(), keys.end(), key) != keys.end();
+}
+
+}  // namespace
+
 OptionsDialog::OptionsDialog(OptionStore& options, const MessageTable& messages,
                              Interaction& questions,
                              const std::map<std::string, std::string>& computed_defaults,
-                             QWidget* parent)
+                             const LogUndoEnv* log_undo, QWidget* parent)
     : QDialog(parent),
       options_(options),
       messages_(messages),
       questions_(questions),
-      computed_defaults_(computed_defaults) {
+      computed_defaults_(computed_defaults),
+      log_undo_(log_undo) {
+  setObjectName("frmOptions");
   setWindowTitle(Msg(messages, "options.title"));
-  resize(640, 520);
+  setMinimumSize(760, 680);
   auto* layout = new QVBoxLayout(this);
   auto* tabs = new QTabWidget(this);
   std::vector<QFormLayout*> forms;
@@ -136,19 +174,26 @@ OptionsDialog::OptionsDialog(OptionStore& options, const MessageTable& messages,
     scroll->setWidgetResizable(true);
     tabs->addTab(scroll, Msg(messages, tab));
   }
+  radios_ = new QButtonGroup(this);
+  radios_->setObjectName("Option1");
   for (const OptionRow& row : OptionRows()) {
     QWidget* editor = Editor(row, forms[row.tab]->parentWidget());
     editors_[row.key] = editor;
     QString caption = Msg(messages, row.caption);
     if (caption.contains("%1")) caption = Q(FillMessage(S(caption), {row.key}));
-    if (row.kind == OptionKind::kTick) {
-      static_cast<QCheckBox*>(editor)->setText(caption);
+    if (auto* button = qobject_cast<QAbstractButton*>(editor)) {
+      button->setText(caption);
       forms[row.tab]->addRow(editor);
     } else {
       forms[row.tab]->addRow(caption, editor);
     }
-    SetShown(row.key, options.GetOption(row.key, "Options", DefaultOf(row)));
   }
+  for (const OptionRow& row : OptionRows()) {
+    SetShown(row.key, options.GetOption(row.key, "Options", DefaultOf(row)));
+    opened_[row.key] = Shown(row.key);
+  }
+  BuildLogAndUndoButtons(forms[2]);
+  BuildSettingsFileChoice(forms[3]);
   layout->addWidget(tabs);
   auto* buttons = new QDialogButtonBox(this);
   auto* reset =
@@ -159,6 +204,121 @@ OptionsDialog::OptionsDialog(OptionStore& options, const MessageTable& messages,
   connect(reset, &QPushButton::clicked, this, [this] { Default(); });
   connect(buttons, &QDialogButtonBox::accepted, this, &OptionsDialog::Ok);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+}
+
+// `optSettingsFile` (none) and `optSettingsFile2` (this file), as start-up
+// reads them: `SettingsFile` "1" loads `SettingsFilePath`.
+void OptionsDialog::BuildSettingsFileChoice(QFormLayout* form) {
+  auto* group = new QGroupBox(Msg(messages_, "options.settings_file_group"), this);
+  auto* column = new QVBoxLayout(group);
+  no_settings_file_ = new QRadioButton(Msg(messages_, "options.no_settings_file"), group);
+  no_settings_file_->setObjectName("optSettingsFile");
+  load_settings_file_ = new QRadioButton(Msg(messages_, "options.load_settings_file"), group);
+  load_settings_file_->setObjectName("optSettingsFile2");
+  auto* path_row = new QHBoxLayout;
+  settings_path_ = new QLineEdit(Q(options_.GetOption("SettingsFilePath", "Options", "")), group);
+  settings_path_->setObjectName("txtSettingsPath");
+  auto* browse = new QPushButton(Msg(messages_, "options.browse"), group);
+  path_row->addWidget(settings_path_, 1);
+  path_row->addWidget(browse);
+  column->addWidget(no_settings_file_);
+  column->addWidget(load_settings_file_);
+  column->addLayout(path_row);
+  form->addRow(group);
+  const bool load = options_.GetOption("SettingsFile", "Options", "0") == "1";
+  (load ? load_settings_file_ : no_settings_file_)->setChecked(true);
+  connect(browse, &QPushButton::clicked, this, [this] {
+    const QString chosen = QFileDialog::getOpenFileName(
+        this, Msg(messages_, "options.load_settings_file"), settings_path_->text(),
+        Msg(messages_, "settings_file.filter") + " (*.twr)");
+    if (chosen.isEmpty()) return;
+    settings_path_->setText(chosen);
+    load_settings_file_->setChecked(true);
+  });
+}
+
+void OptionsDialog::StoreSettingsFileChoice() {
+  if (no_settings_file_ == nullptr) return;
+  const std::string path = S(settings_path_->text().trimmed());
+  // Kept: the choice of a file without a path falls back to none.
+  const bool load = load_settings_file_->isChecked() && !path.empty();
+  options_.SaveOption("NoSettingsFile", "Options", load ? "0" : "1");
+  options_.SaveOption("SettingsFile", "Options", load ? "1" : "0");
+  options_.SaveOption("SettingsFilePath", "Options", path);
+}
+
+void OptionsDialog::BuildLogAndUndoButtons(QFormLayout* form) {
+  if (log_undo_ == nullptr) return;
+  auto* group = new QGroupBox(Msg(messages_, "options.log_undo_group"), this);
+  auto* column = new QVBoxLayout(group);
+  auto* row = new QHBoxLayout;
+  const auto button = [&](const char* key, const char* name) {
+    auto* push = new QPushButton(Msg(messages_, key), group);
+    push->setObjectName(name);
+    row->addWidget(push);
+    return push;
+  };
+  QPushButton* show_log = button("main.menu.show_log", "cmdShowLog");
+  QPushButton* delete_log = button("log.delete_logfile", "cmdDeleteLog");
+  QPushButton* undo_folder = button("main.menu.undo_folder", "cmdUndoFolder");
+  QPushButton* run_batch = button("undo.title_start", "cmdRunUndoBatch");
+  row->addStretch();
+  column->addLayout(row);
+  log_size_ = new QLabel(group);
+  log_size_->setObjectName("lblLogSize");
+  column->addWidget(log_size_);
+  form->addRow(group);
+  ShowLogSize();
+  connect(show_log, &QPushButton::clicked, this, [this] {
+    const std::string path = RunLog(*log_undo_).LogFilePath();
+    if (QFileInfo::exists(Q(path))) OpenWithDesktop(path);
+  });
+  connect(undo_folder, &QPushButton::clicked, this,
+          [this] { OpenWithDesktop(UndoFolderPath(log_undo_->options, log_undo_->state)); });
+  connect(delete_log, &QPushButton::clicked, this, &OptionsDialog::DeleteLogFile);
+  connect(run_batch, &QPushButton::clicked, this, &OptionsDialog::RunUndoBatch);
+}
+
+// "Notice: The logfile has a current file size of 12 KB"; 0 Bytes without a log.
+void OptionsDialog::ShowLogSize() {
+  if (log_size_ == nullptr) return;
+  const FileResult<std::uint64_t> size = FileSize64(RunLog(*log_undo_).LogFilePath());
+  const std::string shown = size.ok() ? FormatFileSize(size.value(), messages_.language())
+                                      : std::string("0 Bytes");
+  log_size_->setText(Msg(messages_, "log.current_size") + " " + Q(shown));
+}
+
+void OptionsDialog::DeleteLogFile() {
+  const Answer answer = questions_.ShowMessage(
+      {std::string(messages_.Text("log.delete_logfile")),
+       std::string(messages_.Text("log.really_delete")), Buttons::kYesNo, MessageIcon::kQuestion,
+       Topic::kDeleteLogFile});
+  if (answer != Answer::kYes) return;
+  DeleteFile(RunLog(*log_undo_).LogFilePath());
+  ShowLogSize();
+}
+
+// The batch is carried out by the program itself, as `tarnwick-cli undo`
+// does: newest run first, never overwriting a file.
+void OptionsDialog::RunUndoBatch() {
+  const Answer answer = questions_.ShowMessage(
+      {std::string(messages_.Text("undo.title_start")),
+       std::string(messages_.Text("undo.really_execute")), Buttons::kYesNo,
+       MessageIcon::kQuestion, Topic::kRunUndoBatch});
+  if (answer != Answer::kYes) return;
+  const UndoReport report = tarnwick::RunUndoBatch(UndoBatch(*log_undo_).UndoBatchPath(), {}, nullptr);
+  std::string text;
+  if (!report.status.ok()) {
+    text = std::to_string(report.status.number) + ": " + report.status.description;
+  } else {
+    text = FillMessage(messages_.Text("options.undo_batch_done"),
+                       {std::to_string(report.done), std::to_string(report.failed),
+                        std::to_string(report.skipped)});
+  }
+  questions_.ShowMessage({std::string(messages_.Text("undo.title_start")), text, Buttons::kOk,
+                          report.failed > 0 || !report.status.ok() ? MessageIcon::kExclamation
+                                                                   : MessageIcon::kInformation,
+                          Topic::kNotice});
 }
 
 std::string OptionsDialog::DefaultOf(const OptionRow& row) const {
@@ -175,6 +335,12 @@ QWidget* OptionsDialog::Editor(const OptionRow& row, QWidget* parent) {
     case OptionKind::kTick:
       editor = new QCheckBox(parent);
       break;
+    case OptionKind::kRadio: {
+      auto* radio = new QRadioButton(parent);
+      radios_->addButton(radio);
+      editor = radio;
+      break;
+    }
     case OptionKind::kChoice: {
       auto* box = new QComboBox(parent);
       for (const char* choice : row.choices) box->addItem(Msg(messages_, choice));
@@ -193,8 +359,13 @@ QWidget* OptionsDialog::Editor(const OptionRow& row, QWidget* parent) {
 std::string OptionsDialog::Shown(const std::string& key) const {
   const auto found = editors_.find(key);
   if (found == editors_.end()) return {};
-  if (auto* box = qobject_cast<QCheckBox*>(found->second)) return box->isChecked() ? "1" : "0";
-  if (auto* combo = qobject_cast<QComboBox*>(found->second)) return S(combo->currentText());
+  if (auto* box = qobject_cast<QAbstractButton*>(found->second)) return box->isChecked() ? "1" : "0";
+  if (auto* combo = qobject_cast<QComboBox*>(found->second)) {
+    const OptionRow* row = RowOf(key);
+    const int index = combo->currentIndex();
+    if (row == nullptr || index < 0) return {};
+    return ChoiceValue(row->choices[static_cast<std::size_t>(index)]);
+  }
   if (auto* field = qobject_cast<QLineEdit*>(found->second)) return S(field->text());
   return {};
 }
@@ -202,10 +373,13 @@ std::string OptionsDialog::Shown(const std::string& key) const {
 void OptionsDialog::SetShown(const std::string& key, const std::string& value) {
   const auto found = editors_.find(key);
   if (found == editors_.end()) return;
-  if (auto* box = qobject_cast<QCheckBox*>(found->second)) box->setChecked(value == "1");
+  if (auto* box = qobject_cast<QAbstractButton*>(found->second)) {
+    if (value == "1" || !box->autoExclusive()) box->setChecked(value == "1");
+  }
   if (auto* combo = qobject_cast<QComboBox*>(found->second)) {
-    const int index = combo->findText(Q(value), Qt::MatchFixedString);
-    combo->setCurrentIndex(index >= 0 ? index : 0);
+    const OptionRow* row = RowOf(key);
+    const auto index = row != nullptr ? FindChoice(value, ChoiceKeys(*row)) : std::nullopt;
+    combo->setCurrentIndex(index ? static_cast<int>(*index) : 0);
   }
   if (auto* field = qobject_cast<QLineEdit*>(found->second)) field->setText(Q(value));
 }
@@ -221,16 +395,37 @@ bool OptionsDialog::Default() {
 }
 
 void OptionsDialog::Ok() {
+  std::vector<std::string> changed;
   for (const OptionRow& row : OptionRows()) {
     std::string value = Shown(row.key);
+    if (value == opened_[row.key]) continue;
     if (std::string_view(row.key) == "FSOverwrite") {
       const long times = std::strtol(value.c_str(), nullptr, 10);
       if (times < 1 || times > 99) value = "8";
     }
     if (std::string_view(row.key) == "DateFormat") value = S(Q(value).toLower());
     options_.SaveOption(row.key, "Options", value);
+    changed.emplace_back(row.key);
   }
+  StoreSettingsFileChoice();
+  ShowNotices(changed);
   accept();
+}
+
+void OptionsDialog::ShowNotices(const std::vector<std::string>& changed) {
+  const bool file_view = Contains(changed, "ShowSystemFiles") ||
+                         Contains(changed, "ShowHiddenFiles") || Contains(changed, "Icons") ||
+                         Contains(changed, "DateFormat");
+  if (file_view) {
+    questions_.ShowMessage({std::string(messages_.Text("options.title_information")),
+                            std::string(messages_.Text("options.file_view_changed")),
+                            Buttons::kOk, MessageIcon::kInformation, Topic::kNotice});
+  }
+  if (Contains(changed, "UseWindowsStyle") || Contains(changed, "Language")) {
+    questions_.ShowMessage({std::string(messages_.Text("options.title_restart_necessary")),
+                            std::string(messages_.Text("options.changes_apply_at_next_start")),
+                            Buttons::kOk, MessageIcon::kInformation, Topic::kNotice});
+  }
 }
 
 }  // namespace tarnwick::gui

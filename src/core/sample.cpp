@@ -14,6 +14,7 @@
 #include "persist/option_store.h"
 #include "shell/app_state.h"
 #include "shell/message_table.h"
+#include "shell/option_choice.h"
 
 namespace tarnwick {
 namespace {
@@ -49,12 +50,13 @@ std::string RunSampleActions(const PipelineEnv& env, RowExpander& expander) {
 }  // namespace
 
 SampleRate ReadSampleRate(OptionStore& options, const MessageTable& messages) {
-  const std::string normal = Text(messages, "sample.rate_normal");
-  const std::string word = options.GetOption("SampleRefreshRate", "Options", normal);
-  for (const RateWord& known : kRateWords) {
-    if (EqualsText(word, messages.Text(known.key))) return known.rate;
-  }
-  options.SaveOption("SampleRefreshRate", "Options", normal);
+  const std::string word = options.GetOption("SampleRefreshRate", "Options", "");
+  if (word.empty()) return SampleRate::kNormal;
+  std::array<std::string_view, kRateWords.size()> keys;
+  for (std::size_t i = 0; i < keys.size(); ++i) keys[i] = kRateWords[i].key;
+  if (const auto choice = FindChoice(word, keys)) return kRateWords[*choice].rate;
+  // Kept: a word of no rate is put right in the store.
+  options.SaveOption("SampleRefreshRate", "Options", ChoiceValue("sample.rate_normal"));
   return SampleRate::kNormal;
 }
 

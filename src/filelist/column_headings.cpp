@@ -1,5 +1,6 @@
 #include "filelist/column_headings.h"
 
+#include "filelist/file_date_type.h"
 #include "persist/option_store.h"
 #include "shell/message_table.h"
 
@@ -12,8 +13,7 @@ std::array<std::string, file_column::kCount> ColumnHeadings(const OptionStore& o
   headings[fc::kName] = messages.Text("filelist.column.name");
   headings[fc::kSize] = messages.Text("report.column_size");
   headings[fc::kType] = messages.Text("filelist.column.type");
-  headings[fc::kDate] =
-      options.GetOption("FileDateType", "Options", messages.Text("options.file_date_created"));
+  headings[fc::kDate] = FileDateHeading(options, messages);
   headings[fc::kAttributes] = messages.Text("filelist.column.attributes");
   headings[fc::kPath] = messages.Text("report.column_path");
   headings[fc::kMediaInfo] = messages.Text("filelist.column.mediainfo");

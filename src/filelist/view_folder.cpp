@@ -2,6 +2,7 @@
 #include "base/path_text.h"
 #include "base/text.h"
 #include "filelist/attribute_text.h"
+#include "filelist/file_date_type.h"
 #include "filelist/list_date_text.h"
 #include "filelist/list_loader.h"
 #include "filelist/media_source.h"
@@ -27,40 +28,26 @@ std::size_t StatusInterval(std::size_t records) {
   return 150;
 }
 
-enum class DateKind { kLastWrite, kLastAccess, kCreated };
-
-// `FileDateType` names the date in the user's language; the rows take
-// "Last Modified" when nothing is stored.
-DateKind ReadDateKind(const FileListContext& context) {
-  const std::string_view last_modified = context.messages.Text("options.file_date_last_modified");
-  const std::string type = context.options.GetOption("FileDateType", kOptions, last_modified);
-  if (EqualsText(type, last_modified)) return DateKind::kLastWrite;
-  if (EqualsText(type, context.messages.Text("options.file_date_last_access"))) {
-    return DateKind::kLastAccess;
-  }
-  return DateKind::kCreated;
-}
-
 // What one folder's rows share.
 struct FolderView {
   std::string folder;
   std::uint32_t folder_index = 0;
-  DateKind date_kind = DateKind::kLastWrite;
+  FileDateKind date_kind = FileDateKind::kLastWrite;
   bool media_info = false;  // MP3WAVLength
   bool names_only = false;  // LoadOnlyFileName
 };
 
 bool IsJpeg(std::string_view extension) { return extension == "jpg" || extension == "jpeg"; }
 
-void FillDate(const FileRecord& record, DateKind kind, FileRow& row) {
-  if (kind == DateKind::kLastWrite) {
+void FillDate(const FileRecord& record, FileDateKind kind, FileRow& row) {
+  if (kind == FileDateKind::kLastWrite) {
     row.date = record.last_write;
     row.has_date = true;
     return;
   }
   // Kept: a link whose target is gone has no date but its own last write.
   if (record.dangling) return;
-  row.date = kind == DateKind::kLastAccess ? record.last_access : record.created;
+  row.date = kind == FileDateKind::kLastAccess ? record.last_access : record.created;
   row.has_date = true;
 }
 
@@ -98,7 +85,7 @@ bool FileListLoader::ViewFolder(FileList& list, const std::string& folder, const
   FolderView view;
   view.folder = folder;
   view.folder_index = list.AddFolder(folder);
-  view.date_kind = ReadDateKind(context_);
+  view.date_kind = ReadFileDateKind(context_.options);
   view.media_info = context_.options.GetOption("MP3WAVLength", kOptions, "0") == "1";
   view.names_only = context_.options.GetOption("LoadOnlyFileName", kOptions, "0") == "1";
   const ExtensionFilter filter(context_.state.CurrentFilter);

@@ -112,6 +112,18 @@ constexpr MessageEntry kEntries[] = {
     {0, "options.file_view_changed", "You have change the options for the file view.",
      "Sie haben die Optionen für die Dateiansicht geändert."},
     {0, "options.title_information", "Information:", "Information:"},
+    // The settings file loaded at start and the log and undo buttons of the
+    // options dialogue; the dialogue names only their controls, the words are ours.
+    {0, "options.no_settings_file", "Start without a settings file",
+     "Ohne Einstellungsdatei starten"},
+    {0, "options.load_settings_file", "Load this settings file at start:",
+     "Diese Einstellungsdatei beim Start laden:"},
+    {0, "options.settings_file_group", "Settings file at start", "Einstellungsdatei beim Start"},
+    {0, "options.browse", "Browse ...", "Durchsuchen ..."},
+    {0, "options.log_undo_group", "Log file and undo batch", "Logdatei und Undo-Batch"},
+    {0, "options.undo_batch_done",
+     "The undo batch was carried out: %1 done, %2 failed, %3 skipped.",
+     "Der Undo-Batch wurde ausgeführt: %1 erledigt, %2 fehlgeschlagen, %3 übersprungen."},
     {0, "options.could_not_start_properly",
      "Tarnwick could not start properly so all options are set back to their defaults.",
      "Tarnwick konnte nicht richtig starten, daher wurden alle Optionen auf ihre Standardwerte "

@@ -136,6 +136,11 @@ constexpr MessageEntry kEntries[] = {
     {0, "main.status.collisions", "%1 new names collide", "%1 neue Namen kollidieren"},
     {0, "main.status.new_names", "New names: %1", "Neue Namen: %1"},
     {0, "main.tip.placeholder_button", "Choose a placeholder", "Platzhalter wählen"},
+    {0, "main.tip.text_field",
+     "Text for the new names: {{...}} placeholders are filled in for each file; the button "
+     "beside lists them",
+     "Text für die neuen Namen: {{...}}-Platzhalter werden für jede Datei ersetzt; die "
+     "Schaltfläche daneben listet sie auf"},
     {0, "order.button_up", "Up", "Nach oben"},
     {0, "order.button_down", "Down", "Nach unten"},
     {0, "result_list.title", "Files to be created", "Zu erstellende Dateien"},

@@ -5,11 +5,21 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFile>
+#include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <filesystem>
 
+#include "base/clock.h"
 #include "desktop_integration.h"
+#include "filelist/file_date_type.h"
 #include "gui/gui_test_support.h"
+#include "persist/log_undo_env.h"
+#include "persist/log_undo_state.h"
 #include "persist/option_store.h"
+#include "persist/undo_line.h"
+#include "shell/app_state.h"
 #include "shell/scripted_interaction.h"
 #include "support/temp_dir.h"
 
@@ -29,6 +39,7 @@ class OptionsDialogTest : public GuiTest {
   std::string OtherValue(const OptionRow& row) {
     switch (row.kind) {
       case OptionKind::kTick:
+      case OptionKind::kRadio:
         return std::string(row.default_value) == "1" ? "0" : "1";
       case OptionKind::kNumber:
         return "42";
@@ -73,10 +84,124 @@ TEST_F(OptionsDialogTest, OkStoresEveryValueAndDefaultRestoresThem) {
   EXPECT_EQ(dialog.Shown("WriteLogFile"), "1");
   EXPECT_EQ(dialog.Shown("BasisNameUndoBatch"), "UndoBatch");
   EXPECT_EQ(dialog.Shown("LogFilePath"), "/logs/Tarnwick.log");
-  EXPECT_EQ(dialog.Shown("FileDateType"), "Created");
+  EXPECT_EQ(dialog.Shown("FileDateType"), "Last Modified");
   EXPECT_EQ(dialog.Shown("Language"), "System language");
   dialog.reject();  // Cancel: the stored values stay
   EXPECT_EQ(options.GetOption("WriteLogFile", "Options", "?"), "0");
+}
+
+// Opened and closed with OK, the dialogue changes nothing: it shows the
+// values the program uses and stores only what the user changed, as the
+// English word whatever the window's language.
+TEST_F(OptionsDialogTest, ShowsWhatTheProgramUsesAndStoresOnlyWhatChanged) {
+  {
+    OptionsDialog dialog(options, messages, questions, computed);
+    EXPECT_EQ(dialog.Shown("FileDateType"), "Last Modified");
+    dialog.Ok();
+  }
+  EXPECT_EQ(options.GetOption("FileDateType", "Options", "?"), "?");
+  EXPECT_EQ(options.GetOption("SampleRefreshRate", "Options", "?"), "?");
+  EXPECT_EQ(ReadFileDateKind(options), FileDateKind::kLastWrite);
+  EXPECT_TRUE(questions.asked().empty());
+
+  const MessageTable& german = MessageTable::Get(Language::kGerman);
+  {
+    OptionsDialog dialog(options, german, questions, computed);
+    auto* date = dialog.findChild<QComboBox*>("FileDateType");
+    EXPECT_EQ(date->currentText(), "Zuletzt geändert");
+    date->setCurrentIndex(2);  // "Letzter Zugriff"
+    dialog.Ok();
+  }
+  EXPECT_EQ(options.GetOption("FileDateType", "Options", "?"), "Last Access");
+  EXPECT_EQ(ReadFileDateKind(options), FileDateKind::kLastAccess);
+  EXPECT_EQ(FileDateHeading(options, german), "Letzter Zugriff");
+  OptionsDialog english(options, messages, questions, computed);
+  EXPECT_EQ(english.findChild<QComboBox*>("FileDateType")->currentText(), "Last Access");
+  english.reject();
+
+  // A word a German window of an older build stored still reads right.
+  options.SaveOption("FileDateType", "Options", "Zuletzt geändert");
+  EXPECT_EQ(ReadFileDateKind(options), FileDateKind::kLastWrite);
+  EXPECT_EQ(FileDateHeading(options, messages), "Last Modified");
+}
+
+TEST_F(OptionsDialogTest, TheCounterResetIsOneChoiceAndChangesBringTheirNotices) {
+  OptionsDialog dialog(options, messages, questions, computed);
+  auto* by_folder = dialog.findChild<QRadioButton*>("ResetCounterByDirectory");
+  auto* by_date = dialog.findChild<QRadioButton*>("ResetCounterByDate");
+  ASSERT_NE(by_folder, nullptr);
+  ASSERT_NE(by_date, nullptr);
+  EXPECT_TRUE(by_folder->isChecked());
+  by_date->click();
+  EXPECT_FALSE(by_folder->isChecked());
+  dialog.findChild<QCheckBox*>("ShowHiddenFiles")->click();
+  dialog.findChild<QCheckBox*>("UseWindowsStyle")->click();
+  dialog.Ok();
+  EXPECT_EQ(options.GetOption("ResetCounterByDirectory", "Options", "?"), "0");
+  EXPECT_EQ(options.GetOption("ResetCounterByDate", "Options", "?"), "1");
+  ASSERT_EQ(questions.asked().size(), 2u);
+  EXPECT_EQ(questions.asked()[0].text, "You have change the options for the file view.");
+  EXPECT_EQ(questions.asked()[0].title, "Information:");
+  EXPECT_EQ(questions.asked()[1].text, "The changes apply at the next start of the application.");
+}
+
+TEST_F(OptionsDialogTest, TheSettingsFileLoadedAtStartIsChosenWithItsPath) {
+  {
+    OptionsDialog dialog(options, messages, questions, computed);
+    dialog.findChild<QRadioButton*>("optSettingsFile2")->click();
+    dialog.findChild<QLineEdit*>("txtSettingsPath")->setText("/home/me/trip.twr");
+    dialog.Ok();
+  }
+  EXPECT_EQ(options.GetOption("SettingsFile", "Options", "?"), "1");
+  EXPECT_EQ(options.GetOption("NoSettingsFile", "Options", "?"), "0");
+  EXPECT_EQ(options.GetOption("SettingsFilePath", "Options", "?"), "/home/me/trip.twr");
+  {
+    OptionsDialog dialog(options, messages, questions, computed);
+    EXPECT_TRUE(dialog.findChild<QRadioButton*>("optSettingsFile2")->isChecked());
+    dialog.findChild<QLineEdit*>("txtSettingsPath")->clear();  // a file without a path
+    dialog.Ok();
+  }
+  EXPECT_EQ(options.GetOption("SettingsFile", "Options", "?"), "0");
+  EXPECT_EQ(options.GetOption("NoSettingsFile", "Options", "?"), "1");
+}
+
+TEST_F(OptionsDialogTest, TheLogAndUndoButtonsShowDeleteAndRunWhatTheyName) {
+  SystemClock clock;
+  AppState app;
+  LogUndoState state;
+  state.DefaultUndoFolder = (dir.path() / "undo").string();
+  state.DefaultLogFolder = dir.path().string();
+  state.UndoBatchName = "UndoBatch.bat";
+  std::filesystem::create_directories(dir.path() / "undo");
+  const LogUndoEnv env{options, questions, messages, clock, app, state};
+  dir.WriteFile("Tarnwick.log", std::string(2048, 'x'));
+  dir.WriteFile("renamed.txt", "mine");
+  dir.WriteFile("undo/UndoBatch.bat",
+                " \r\n@echo off\r\n" +
+                    UndoEntryLine((dir.path() / "original.txt").string(),
+                                  (dir.path() / "renamed.txt").string(), "move") +
+                    "\r\n");
+  OptionsDialog dialog(options, messages, questions, computed, &env);
+  auto* size = dialog.findChild<QLabel*>("lblLogSize");
+  ASSERT_NE(size, nullptr);
+  EXPECT_TRUE(size->text().startsWith("Notice: The logfile has a current file size of 2"))
+      << size->text().toStdString();
+
+  questions.Then(Answer::kNo).Then(Answer::kYes);
+  dialog.findChild<QPushButton*>("cmdDeleteLog")->click();
+  EXPECT_TRUE(std::filesystem::exists(dir.path() / "Tarnwick.log"));
+  dialog.findChild<QPushButton*>("cmdDeleteLog")->click();
+  EXPECT_FALSE(std::filesystem::exists(dir.path() / "Tarnwick.log"));
+  EXPECT_TRUE(size->text().endsWith(" 0 Bytes")) << size->text().toStdString();
+  EXPECT_EQ(questions.asked().back().text, "Do you really want to delete the log file?");
+
+  questions.Then(Answer::kYes).Then(Answer::kOk);
+  dialog.findChild<QPushButton*>("cmdRunUndoBatch")->click();
+  EXPECT_TRUE(std::filesystem::exists(dir.path() / "original.txt"));
+  EXPECT_FALSE(std::filesystem::exists(dir.path() / "renamed.txt"));
+  EXPECT_EQ(questions.asked().back().text,
+            "The undo batch was carried out: 1 done, 0 failed, 0 skipped.");
+  dialog.reject();
 }
 
 TEST_F(OptionsDialogTest, ShredderTimesOutsideTheRangeBecomeEight) {

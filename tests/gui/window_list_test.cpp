@@ -325,6 +325,22 @@ TEST_F(WindowListTest, ASampleSelectionAfterAnEmojiCountsCharacters) {
   EXPECT_NE(status.find(" 7 "), std::string::npos) << status;
 }
 
+TEST_F(WindowListTest, TheTooltipOptionsSwitchTheirTooltipsOnAndOff) {
+  Open(1);
+  const auto tip = [&] {
+    const auto* model = window->file_view()->model();
+    return model->data(model->index(0, 0), Qt::ToolTipRole).toString().toStdString();
+  };
+  EXPECT_NE(tip().find(dir.str() + "/" + NameOf(0)), std::string::npos) << tip();
+  auto* prefix = window->findChild<QLineEdit*>("txtPrefix");
+  EXPECT_FALSE(prefix->toolTip().isEmpty());
+  options.SaveOption("ShowTooltips", "Options", "0");
+  options.SaveOption("AdvancedToolTip", "Options", "0");
+  window->ApplyTooltipOptions();
+  EXPECT_EQ(tip(), "");
+  EXPECT_TRUE(prefix->toolTip().isEmpty());
+}
+
 // Another thread makes, renames and removes files while the window fills and
 // runs: the files that stay put are always all listed, and a run renames
 // exactly the rows that were selected when it was confirmed.
