@@ -95,6 +95,18 @@ TEST_F(RenameFromTextTest, NamesGoByPositionKeepTheOldExtensionAndUndoTakesThemB
   EXPECT_EQ(Names(), (std::vector<std::string>{"a.jpg", "b.jpg", "c.txt", "d.txt"}));
 }
 
+// A name the file system cannot take fails alone: reported and logged, the
+// file keeps its name and the other files are renamed.
+TEST_F(RenameFromTextTest, ANameTooLongForTheFileSystemFailsAlone) {
+  for (const char* name : {"a.txt", "b.txt"}) AddFile(name);
+  interaction.SetDefault(QuestionKind::kMessageBox, Answer::kYes);
+  const RenameRunResult result = RunNames(std::string(300, 'n') + "\r\nshort");
+  EXPECT_EQ(result.failed, 1);
+  EXPECT_EQ(result.done, 1);
+  EXPECT_EQ(Names(), (std::vector<std::string>{"a.txt", "short.txt"}));
+  EXPECT_NE(Log().find("! ERROR:"), std::string::npos) << Log();
+}
+
 TEST_F(RenameFromTextTest, TakenAndEmptyNamesAndTheOtherModes) {
   for (const char* name : {"a.jpg", "b.jpg", "c.jpg"}) AddFile(name);
   AddFile("keep.jpg");
