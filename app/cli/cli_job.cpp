@@ -67,6 +67,30 @@ std::optional<std::string> CliJob::ListFolder(const std::string& folder, const s
   return std::nullopt;
 }
 
+bool FileArgs::Take(std::span<const std::string> args, std::size_t& i,
+                    std::optional<std::string>& error) {
+  const std::string& arg = args[i];
+  if (arg != "--from-list" && arg != "--select") return false;
+  if (i + 1 >= args.size()) {
+    error = arg + " needs a value";
+    return true;
+  }
+  (arg == "--from-list" ? from_list : select) = args[++i];
+  return true;
+}
+
+std::optional<std::string> FileArgs::Check() const {
+  if (files.empty() == from_list.empty()) {
+    return "name the files, or give --from-list DIR (with --select GLOB), not both";
+  }
+  if (!select.empty() && from_list.empty()) return "--select needs --from-list DIR";
+  return std::nullopt;
+}
+
+std::optional<std::string> CliJob::List(const FileArgs& files) {
+  return files.from_list.empty() ? ListFiles(files.files) : ListFolder(files.from_list, files.select);
+}
+
 RenameRunEnv CliJob::Env() {
   return {app, settings, list, options, ui, messages, clock, log_undo, readers_};
 }

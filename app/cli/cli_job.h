@@ -21,6 +21,19 @@
 
 namespace tarnwick::cli {
 
+// FILES... or --from-list DIR [--select GLOB]: the files a command works on.
+struct FileArgs {
+  std::vector<std::string> files;
+  std::string from_list;
+  std::string select;
+
+  // Takes `--from-list DIR` or `--select GLOB` at args[i], moving i past the
+  // value; false for any other argument. A missing value sets `error`.
+  bool Take(std::span<const std::string> args, std::size_t& i, std::optional<std::string>& error);
+  // The mistake in how the files were named, or nothing.
+  std::optional<std::string> Check() const;
+};
+
 // Everything a command needs that works on files as the window's tools do:
 // the user's options, the log and undo folders set up as at start-up, the
 // command line's answers to questions, and the list of the files named.
@@ -34,6 +47,9 @@ class CliJob {
   // The rows of a folder's files whose names match `glob` (case-insensitive;
   // empty: all), every row selected. The message of a missing folder.
   std::optional<std::string> ListFolder(const std::string& folder, const std::string& glob);
+
+  // ListFiles or ListFolder, as the arguments name the files.
+  std::optional<std::string> List(const FileArgs& files);
 
   RenameRunEnv Env();
 

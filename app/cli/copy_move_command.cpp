@@ -16,9 +16,7 @@ namespace {
 
 struct CopyMoveArgs {
   CopyMoveChoices choices;
-  std::vector<std::string> files;
-  std::string from_list;  // --from-list DIR
-  std::string select;     // --select GLOB
+  FileArgs files;
   bool keep_date = false;
   bool shift_seen = false;
 };
@@ -87,7 +85,7 @@ std::optional<std::string> ParseArgs(std::span<const std::string> args, CopyMove
   for (std::size_t i = 0; i < args.size(); ++i) {
     const std::string& arg = args[i];
     const bool takes_value = arg == "--date" || arg == "--time" || arg == "--shift" ||
-                             arg == "--batch" || arg == "--from-list" || arg == "--select";
+                             arg == "--batch";
     if (takes_value && i + 1 >= args.size()) return arg + " needs a value";
     if (arg == "--overwrite") {
       out.choices.overwrite = true;
@@ -102,10 +100,8 @@ std::optional<std::string> ParseArgs(std::span<const std::string> args, CopyMove
     } else if (arg == "--batch") {
       out.choices.batch_only = true;
       out.choices.batch_path = AbsolutePathName(args[++i], "");
-    } else if (arg == "--from-list") {
-      out.from_list = args[++i];
-    } else if (arg == "--select") {
-      out.select = args[++i];
+    } else if (std::optional<std::string> error; out.files.Take(args, i, error)) {
+      if (error) return error;
     } else if (arg.starts_with("--")) {
       return "unknown option " + arg;
     } else {
@@ -114,14 +110,11 @@ std::optional<std::string> ParseArgs(std::span<const std::string> args, CopyMove
   }
   if (positional.empty()) return "the target folder is missing";
   out.choices.target_folder = AbsolutePathName(positional.front(), "");
-  out.files.assign(positional.begin() + 1, positional.end());
+  out.files.files.assign(positional.begin() + 1, positional.end());
   if (out.shift_seen && (out.choices.date.set_date || out.choices.date.set_time)) {
     return "--date/--time set a date, --shift moves it: use one or the other";
   }
-  if (out.files.empty() == out.from_list.empty()) {
-    return "name the files, or give --from-list DIR (with --select GLOB), not both";
-  }
-  if (!out.select.empty() && out.from_list.empty()) return "--select needs --from-list DIR";
+  if (auto error = out.files.Check()) return error;
   if (out.choices.append_batch && !out.choices.batch_only) return "--append needs --batch FILE";
   if (out.choices.batch_only && !out.choices.append_batch && FileExists(out.choices.batch_path)) {
     return out.choices.batch_path + " exists: add --append, or choose another name";
@@ -141,9 +134,7 @@ int RunCopyOrMove(std::span<const std::string> raw, CliIo& io, bool move) {
     std::replace(text.begin(), text.end(), '\n', ' ');
     return UsageError(io, command, text);
   }
-  const auto listed = args.from_list.empty() ? job.ListFiles(args.files)
-                                             : job.ListFolder(args.from_list, args.select);
-  if (listed) return UsageError(io, command, *listed);
+  if (const auto listed = job.List(args.files)) return UsageError(io, command, *listed);
   if (job.list.SelectedCount() == 0) return Failure(io, "no file to " + std::string(command));
   if (args.keep_date) job.options.SetOverride("KeepOldFiledate", "Options", "1");
   ToolJobResult result;

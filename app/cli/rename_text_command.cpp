@@ -14,9 +14,7 @@ constexpr int kExitRefused = 3;
 
 struct RenameTextArgs {
   std::string text_file;
-  std::vector<std::string> files;
-  std::string from_list;
-  std::string select;
+  FileArgs files;
   int mode = 0;
   bool yes = false;
 };
@@ -25,7 +23,7 @@ std::optional<std::string> ParseArgs(std::span<const std::string> args, RenameTe
   std::vector<std::string> positional;
   for (std::size_t i = 0; i < args.size(); ++i) {
     const std::string& arg = args[i];
-    const bool takes_value = arg == "--mode" || arg == "--from-list" || arg == "--select";
+    const bool takes_value = arg == "--mode";
     if (takes_value && i + 1 >= args.size()) return arg + " needs a value";
     if (arg == "--yes") {
       out.yes = true;
@@ -40,10 +38,8 @@ std::optional<std::string> ParseArgs(std::span<const std::string> args, RenameTe
       } else {
         return "--mode is rename, copy or test, not '" + mode + "'";
       }
-    } else if (arg == "--from-list") {
-      out.from_list = args[++i];
-    } else if (arg == "--select") {
-      out.select = args[++i];
+    } else if (std::optional<std::string> error; out.files.Take(args, i, error)) {
+      if (error) return error;
     } else if (arg.starts_with("--")) {
       return "unknown option " + arg;
     } else {
@@ -52,11 +48,8 @@ std::optional<std::string> ParseArgs(std::span<const std::string> args, RenameTe
   }
   if (positional.empty()) return "the text file of names is missing";
   out.text_file = positional.front();
-  out.files.assign(positional.begin() + 1, positional.end());
-  if (out.files.empty() == out.from_list.empty()) {
-    return "name the files, or give --from-list DIR (with --select GLOB), not both";
-  }
-  if (!out.select.empty() && out.from_list.empty()) return "--select needs --from-list DIR";
+  out.files.files.assign(positional.begin() + 1, positional.end());
+  if (auto error = out.files.Check()) return error;
   return std::nullopt;
 }
 
@@ -78,9 +71,7 @@ int RunRenameText(std::span<const std::string> raw, CliIo& io) {
   RenameTextArgs args;
   if (auto error = ParseArgs(raw, args)) return UsageError(io, "rename-from-text", *error);
   CliJob job(io, args.yes);
-  const auto listed = args.from_list.empty() ? job.ListFiles(args.files)
-                                             : job.ListFolder(args.from_list, args.select);
-  if (listed) return UsageError(io, "rename-from-text", *listed);
+  if (const auto listed = job.List(args.files)) return UsageError(io, "rename-from-text", *listed);
   const NameTextFile file = ReadNameTextFile(args.text_file, job.messages);
   const NameTextCheck check = CheckNameTextFile(file, job.list.SelectedCount(), job.messages);
   if (!check.ok) {

@@ -56,22 +56,26 @@ bool Refused(char32_t code) {
 }  // namespace
 
 NameTextFile ReadNameTextFile(const std::string& path, const MessageTable& messages) {
-  NameTextFile file;
   std::ifstream in(path, std::ios::binary);
-  if (!in) {
+  std::string bytes;
+  if (in) bytes.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+  if (!in.is_open() || in.bad()) {
+    NameTextFile file;
     file.error = std::string(messages.Text("renamefile.cannot_read")) + "\r\n" + path;
     return file;
   }
-  std::string bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
-  if (in.bad()) {
-    file.error = std::string(messages.Text("renamefile.cannot_read")) + "\r\n" + path;
-    return file;
-  }
+  NameTextFile file = NameTextFromBytes(bytes, messages);
+  if (!file.error.empty()) file.error += "\r\n" + path;
+  return file;
+}
+
+NameTextFile NameTextFromBytes(std::string_view bytes, const MessageTable& messages) {
+  NameTextFile file;
   file.size = bytes.size();
   // A zero byte is in no text a person types: a picture or a program was
   // chosen by mistake.
-  if (bytes.find('\0') != std::string::npos) {
-    file.error = std::string(messages.Text("renamefile.not_a_text_file")) + "\r\n" + path;
+  if (bytes.find('\0') != std::string_view::npos) {
+    file.error = std::string(messages.Text("renamefile.not_a_text_file"));
     return file;
   }
   std::string_view view(bytes);

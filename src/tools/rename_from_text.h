@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "core/start_rename.h"
@@ -27,6 +28,8 @@ struct NameTextFile {
 };
 
 NameTextFile ReadNameTextFile(const std::string& path, const MessageTable& messages);
+// The same for the bytes of such a file.
+NameTextFile NameTextFromBytes(std::string_view bytes, const MessageTable& messages);
 
 // The validation report: one line per character a name cannot hold (a
 // control character below 32, or \ / : * ? " < > |): "Row 0, Char 3:<tab>->
