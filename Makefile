@@ -1,5 +1,5 @@
 # Tarnwick: the two commands a newcomer needs are `make run` and `make check`.
-.PHONY: deps build run check bench fuzz format clean
+.PHONY: deps build run check bench fuzz fuzz-run format clean
 
 
 deps:
@@ -25,6 +25,11 @@ bench: deps
 fuzz: deps
 	@cmake --preset fuzz >/dev/null
 	@cmake --build --preset fuzz
+
+# A campaign: every target for SECONDS each (see scripts/fuzz-run.sh).
+SECONDS ?= 600
+fuzz-run: deps
+	@bash scripts/fuzz-run.sh $(SECONDS) $(TARGETS)
 
 format:
 	@git ls-files '*.cpp' '*.h' | xargs clang-format -i

@@ -4,6 +4,7 @@
 # strace: counts the system calls per file in scripts/bench-run.sh.
 # fonts-dejavu-core: a font for the window's screenshots on machines without one.
 # qt6-multimedia-dev: the desktop window plays the finish sound through Qt Multimedia.
+# clang, libclang-rt-14-dev: libFuzzer for `make fuzz` and `make fuzz-run`.
 # Idempotent: when everything is present it only checks and returns.
 set -euo pipefail
 
@@ -15,6 +16,7 @@ packages=(
   python3
   rename strace
   qt6-base-dev qt6-multimedia-dev fonts-dejavu-core
+  clang libclang-rt-14-dev
 )
 
 missing=()
