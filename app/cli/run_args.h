@@ -17,10 +17,14 @@ struct RunArgs {
   std::string select;                                     // --select GLOB; empty: all rows
   bool yes = false;                                       // --yes
   bool subfolders = false;                                // --subfolders
+  bool json = false;                                      // --json (preview)
+  bool list_controls = false;                             // --controls
 };
 
 // Reads the arguments; the message of the first mistake, or nothing.
-// `preview` takes no --mode: it is always a test.
+// `preview` takes no --mode: it is always a test. The named flags (--prefix,
+// --number ...) become the --set pairs of the controls the window ticks and
+// fills for the same job, in the order given.
 std::optional<std::string> ParseRunArgs(std::span<const std::string> args, bool preview,
                                         RunArgs& out);
 

@@ -3,6 +3,7 @@
 #include <fnmatch.h>
 
 #include <array>
+#include <set>
 #include <filesystem>
 #include <iostream>
 #include <string>
@@ -11,10 +12,13 @@
 #include "base/path_text.h"
 #include "cli_command.h"
 #include "core/journal_recovery.h"
+#include "core/new_name_preview.h"
+#include "core/pipeline_env.h"
 #include "core/rename_settings.h"
 #include "core/start_rename.h"
 #include "filelist/list_loader.h"
 #include "filelist/media_column_source.h"
+#include "json_text.h"
 #include "media/media_readers.h"
 #include "patient_interaction.h"
 #include "persist/default_paths.h"
@@ -25,6 +29,7 @@
 #include "platform/files.h"
 #include "platform/user_folders.h"
 #include "run_args.h"
+#include "run_controls.h"
 #include "run_settings_file.h"
 #include "shell/app_state.h"
 #include "shell/cancel.h"
@@ -69,7 +74,11 @@ std::optional<std::string> ApplySets(const RunArgs& args, RenameSettings& settin
       options.SetOverride("SortOrderInternal" + name.substr(17), "Options", value);
       continue;
     }
-    if (!SetRenameSetting(settings, name, value)) return "no setting is called '" + name + "'";
+    if (SetRenameSetting(settings, name, value)) continue;
+    const std::string nearest = NearestControlNames(name);
+    return "no control is called '" + name + "'" +
+           (nearest.empty() ? std::string() : "; did you mean " + nearest + "?") +
+           " ('tarnwick-cli run --controls' lists them)";
   }
   return std::nullopt;
 }
@@ -100,6 +109,51 @@ void CompleteKilledRuns(const OptionStore& options, const LogUndoState& state, C
   }
 }
 
+// The command line's interaction; with --json the rows of a test are kept
+// for the JSON text instead of printed as lines.
+class RowKeepingInteraction : public PatientInteraction {
+ public:
+  RowKeepingInteraction(CliOptions options, bool keep) : PatientInteraction(options), keep_(keep) {}
+  void ShowTestResults(const std::vector<TestResultRow>& rows) override {
+    if (!keep_) return PatientInteraction::ShowTestResults(rows);
+    rows_ = rows;
+  }
+  const std::vector<TestResultRow>& rows() const { return rows_; }
+
+ private:
+  bool keep_;
+  std::vector<TestResultRow> rows_;
+};
+
+// The rows whose new names collide, as the window's "New name" column marks
+// them: a target that another file holds, or that two rows share.
+std::set<std::pair<std::string, std::string>> FindConflicts(const PipelineEnv& env) {
+  NewNamePreview preview;
+  preview.Start(env);
+  while (!preview.Step(env, 1000)) {
+  }
+  std::set<std::pair<std::string, std::string>> conflicts;
+  for (const NewNameRow& row : preview.rows()) {
+    if (!row.collides) continue;
+    conflicts.emplace(std::string(env.list.Folder(row.row)), env.list.rows()[row.row].name);
+  }
+  return conflicts;
+}
+
+void PrintRowsAsJson(std::ostream& out, const std::vector<TestResultRow>& rows,
+                     const std::set<std::pair<std::string, std::string>>& conflicts) {
+  out << "[";
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    JsonObject object;
+    object.Text("present", rows[i].present_name);
+    object.Text("new", rows[i].new_name);
+    object.Text("folder", rows[i].folder);
+    object.Bool("conflict", conflicts.contains({rows[i].folder, rows[i].present_name}));
+    out << (i == 0 ? "" : ",\n ") << object.str();
+  }
+  out << "]\n";
+}
+
 const char* ModeWord(int mode) {
   if (mode == 0) return "renamed";
   if (mode == 1) return "copied";
@@ -110,6 +164,10 @@ int RunCommand(std::span<const std::string> raw, CliIo& io, bool preview) {
   const std::string_view command = preview ? "preview" : "run";
   RunArgs args;
   if (const auto error = ParseRunArgs(raw, preview, args)) return UsageError(io, command, *error);
+  if (args.list_controls) {
+    PrintControls(io.out, MessageTable::Get(SystemLanguage()));
+    return kExitOk;
+  }
   OptionStore options = OptionStore::ForCurrentUser();
   RenameSettings settings;
   if (!args.settings_file.empty()) {
@@ -119,6 +177,11 @@ int RunCommand(std::span<const std::string> raw, CliIo& io, bool preview) {
   }
   if (const auto error = ApplySets(args, settings, options)) return UsageError(io, command, *error);
   if (args.mode) settings.optCopyRename = *args.mode;
+  if (Ticked(settings.chkEditManual)) {
+    return UsageError(io, command,
+                      "the manual edit (chkEditManual) asks for every file and needs the window; "
+                      "untick it for a run from the command line");
+  }
   const std::string folder = AbsolutePathName(RunFolder(args, settings), "");
   if (!FolderExists(folder)) return UsageError(io, command, "no such folder: " + folder);
 
@@ -129,7 +192,7 @@ int RunCommand(std::span<const std::string> raw, CliIo& io, bool preview) {
   TakeViewFlags(options, app);
   CliOptions cli_options;
   cli_options.assume_yes = args.yes;
-  PatientInteraction ui(cli_options);
+  RowKeepingInteraction ui(cli_options, args.json);
   const MessageTable& messages = MessageTable::Get(SystemLanguage());
   SystemClock clock;
   LogUndoState log_undo;
@@ -145,14 +208,26 @@ int RunCommand(std::span<const std::string> raw, CliIo& io, bool preview) {
   FileListLoader loader({options, app, ui, fill_log, media, messages});
   FileList list;
   RenameRunResult result;
+  std::set<std::pair<std::string, std::string>> conflicts;  // folder, present name
   {
     ScopedInterruptCancel interrupt(app);
     loader.FillListView(list, {folder, args.subfolders || Ticked(settings.chkIncludeSubfolders)});
     if (app.CancelRun) return Failure(io, "cancelled while reading the folder");
     SelectRows(list, args.select);
+    if (settings.optCopyRename == kModeTest) {
+      conflicts = FindConflicts({app, settings, list, options, ui, messages, clock, readers,
+                                 nullptr, list.SelectedCount()});
+    }
     result = StartRename({app, settings, list, options, ui, messages, clock, log_undo, readers});
   }
   ui.HideProgress();
+  if (result.mode == kModeTest && !result.stopped) {
+    if (args.json) PrintRowsAsJson(io.out, ui.rows(), conflicts);
+    io.err << kProgramName << ": "
+           << (conflicts.size() == 1 ? std::string("1 new name collides")
+                                     : std::to_string(conflicts.size()) + " new names collide")
+           << '\n';
+  }
   if (result.stopped && !result.cancelled) return kExitStopped;
   io.err << kProgramName << ": " << result.done << " " << ModeWord(result.mode) << ", "
          << result.skipped << " skipped, " << result.failed << " failed"
@@ -163,15 +238,16 @@ int RunCommand(std::span<const std::string> raw, CliIo& io, bool preview) {
 int RunRun(std::span<const std::string> args, CliIo& io) { return RunCommand(args, io, false); }
 int RunPreview(std::span<const std::string> args, CliIo& io) { return RunCommand(args, io, true); }
 
-constexpr std::array<CommandForm, 1> kRunForms = {{
-    {"run [SETTINGS.twr] [--folder DIR] [--set NAME=VALUE]... [--mode rename|copy|test] "
-     "[--select GLOB] [--subfolders] [--yes]",
+constexpr std::array<CommandForm, 2> kRunForms = {{
+    {"run [SETTINGS.twr] [--folder DIR] [--set NAME=VALUE]... [ACTION FLAGS] "
+     "[--mode rename|copy|test] [--select GLOB] [--subfolders] [--yes]",
      "rename, copy or test the files of a folder with the given renaming settings"},
+    {"run --controls", "every renaming control --set takes, with its meaning and values"},
 }};
 
 constexpr std::array<CommandForm, 1> kPreviewForms = {{
-    {"preview [SETTINGS.twr] [--folder DIR] [--set NAME=VALUE]... [--select GLOB] "
-     "[--subfolders] [--yes]",
+    {"preview [SETTINGS.twr] [--folder DIR] [--set NAME=VALUE]... [ACTION FLAGS] "
+     "[--select GLOB] [--subfolders] [--yes] [--json]",
      "show what a run would do: the same as run --mode test"},
 }};
 
@@ -184,6 +260,26 @@ constexpr std::string_view kRunDetails =
     "                      txtStartNumber=001, optCopyRename=1; also\n"
     "                      SortOrderInternal1..10 for this run only (the stored\n"
     "                      options stay as they were). May be repeated.\n"
+    "  --controls          list every control name with its meaning, default\n"
+    "                      and values, and exit\n"
+    "\n"
+    "Action flags, each the controls the window ticks and fills for it:\n"
+    "  --prefix TEXT       chkPrefix, txtPrefix\n"
+    "  --postfix TEXT      chkPostfix, txtPostfix\n"
+    "  --name TEXT         chkCompleteName, txtCompleteName (replace the name)\n"
+    "  --ext TEXT          chkExtension, txtExtension\n"
+    "  --replace FROM TO   chkReplace, txtSearchString, txtReplaceString\n"
+    "  --cut-left N        chkCutLeft, txtLeftCut\n"
+    "  --cut-right N       chkCutRight, txtRightCut\n"
+    "  --range FROM TO TEXT  chkCutMiddle, txtFromChar, txtToChar, txtReplaceChars\n"
+    "  --pattern EXPR      chkOnlyUsePatterns, txtUsePlaceholder\n"
+    "  --number START      chkNumbers, txtStartNumber; with --step N (txtStep) and\n"
+    "                      --place before-prefix|after-prefix|before-postfix|\n"
+    "                      after-postfix (optNumber)\n"
+    "TEXT may hold {{...}} placeholders (see 'tarnwick-cli catalogue'). The\n"
+    "manual edit (chkEditManual) needs the window and is refused here. A\n"
+    "control name --set does not know is refused with the nearest names.\n"
+    "\n"
     "  --mode MODE         rename, copy or test (default: optCopyRename)\n"
     "  --select GLOB       only the files whose names match (case-insensitive);\n"
     "                      default: every file the list shows\n"
@@ -210,6 +306,10 @@ constexpr std::string_view kRunDetails =
 
 constexpr std::string_view kPreviewDetails =
     "Takes the arguments of run except --mode (see 'tarnwick-cli run --help').\n"
+    "--json prints the rows as a JSON array of {present, new, folder, conflict};\n"
+    "conflict marks a new name that another file holds or that two rows share,\n"
+    "as the window's \"New name\" column does. Every test run counts those\n"
+    "collisions on standard error.\n"
     "No file is changed; the log and the undo batch get the test's entries\n"
     "(comment lines) as the options say. One line per file on standard\n"
     "output: present name, a tab, new name, a tab, folder. Exit status as for\n"

@@ -147,4 +147,43 @@ TEST_F(CliRunTest, AnEmptyCompleteNameIsRefusedAndTheFilesStay) {
 }
 
 }  // namespace
+// The named flags set exactly the controls of their --set spelling; every
+// control is listed; a misspelt one is refused with its nearest name.
+TEST_F(CliRunTest, NamedFlagsGiveTheRowsOfTheirSetSpellingAndControlsAreListed) {
+  for (const char* name : {"a.jpg", "b.jpg", "X_a.jpg"}) AddFile(name);
+  const CliResult named = Run({"preview", "--prefix", "X_", "--number", "1", "--place",
+                               "before-prefix", "--replace", "a", "A", "--cut-right", "1"});
+  const CliResult set = Run({"preview", "--set", "chkPrefix=1", "--set", "txtPrefix=X_", "--set",
+                             "chkNumbers=1", "--set", "txtStartNumber=1", "--set", "optNumber=0",
+                             "--set", "chkReplace=1", "--set", "txtSearchString=a", "--set",
+                             "txtReplaceString=A", "--set", "chkCutRight=1", "--set",
+                             "txtRightCut=1"});
+  ASSERT_EQ(named.exit_code, 0) << named.err;
+  EXPECT_EQ(named.out, set.out);
+  EXPECT_FALSE(named.out.empty());
+
+  const CliResult json = Run({"preview", "--prefix", "X_", "--json"});
+  ASSERT_EQ(json.exit_code, 0) << json.err;
+  EXPECT_THAT(json.out, HasSubstr("{\"present\": \"a.jpg\", \"new\": \"X_a.jpg\", \"folder\": \"" +
+                                  folder().string() + "\", \"conflict\": true}"));
+  EXPECT_THAT(json.out, HasSubstr("\"present\": \"b.jpg\", \"new\": \"X_b.jpg\""));
+  EXPECT_THAT(json.err, HasSubstr("1 new name collides"));
+
+  const CliResult controls = cli.Run({"run", "--controls"});
+  EXPECT_EQ(controls.exit_code, 0);
+  for (const char* control : {"chkPrefix\tPrefix\t0\t0|1", "txtStartNumber\t", "optCopyRename\t",
+                              "chkEditManual\t", "cboExtension\t"}) {
+    EXPECT_THAT(controls.out, HasSubstr(control));
+  }
+
+  const CliResult misspelt = Run({"run", "--set", "chkPrefx=1"});
+  EXPECT_EQ(misspelt.exit_code, 2);
+  EXPECT_THAT(misspelt.err, HasSubstr("did you mean chkPrefix?"));
+  const CliResult manual = Run({"run", "--set", "chkEditManual=1", "--prefix", "y"});
+  EXPECT_EQ(manual.exit_code, 2);
+  EXPECT_THAT(manual.err, HasSubstr("needs the window"));
+  EXPECT_EQ(Run({"preview", "--place", "somewhere"}).exit_code, 2);
+  EXPECT_EQ(Names(), (std::vector<std::string>{"X_a.jpg", "a.jpg", "b.jpg"}));
+}
+
 }  // namespace tarnwick
