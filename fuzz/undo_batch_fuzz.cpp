@@ -61,10 +61,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   }
   const std::filesystem::path batch = Sandbox() / "UndoBatch.bat";
   std::ofstream(batch, std::ios::binary | std::ios::trunc) << bytes;
-  const UndoReport report = RunUndoBatch(batch, {.dry_run = true}, [](const UndoStep& step) {
+  // A dry run tells what it would do (its `done` counts those) and does none.
+  RunUndoBatch(batch, {.dry_run = true}, [](const UndoStep& step) {
     Check(step.outcome != UndoStepOutcome::kDone);
   });
-  Check(report.done == 0);
   Check(std::filesystem::exists(Sandbox() / "keep.txt"));
   return 0;
 }
