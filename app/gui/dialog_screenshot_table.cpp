@@ -59,7 +59,9 @@ std::unique_ptr<QDialog> MakePlaceholderPicker(DialogShotContext& c) {
 }
 
 std::unique_ptr<QDialog> MakeStartRenaming(DialogShotContext& c) {
-  return std::make_unique<StartRenamingDialog>(c.messages, &c.window);
+  c.window.FinishNewNames();
+  return std::make_unique<StartRenamingDialog>(c.messages, c.window.new_names().collision_count(),
+                                               &c.window);
 }
 
 std::unique_ptr<QDialog> MakeFileExists(DialogShotContext& c) {

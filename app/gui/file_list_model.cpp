@@ -53,6 +53,11 @@ QVariant FileListModel::data(const QModelIndex& index, int role) const {
     if (entry == nullptr) return {};
     if (role == Qt::DisplayRole) return Q(entry->name);
     if (role == Qt::ForegroundRole && entry->collides) return QBrush(Qt::red);
+    // The red text gives way to the selection's colours; the sign stays.
+    if (role == Qt::DecorationRole && entry->collides) {
+      return QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning);
+    }
+    if (role == Qt::ToolTipRole && entry->collides) return collision_tip_;
     return {};
   }
   if (role == Qt::DisplayRole) return Q(list_.Text(row, column));

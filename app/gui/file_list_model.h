@@ -32,6 +32,8 @@ class FileListModel : public QAbstractTableModel {
   void SetDecorated(bool decorated);
   // `ShowTooltips`: a row's tooltip tells its file's path, size and date.
   void SetFileTooltips(bool shown) { file_tooltips_ = shown; }
+  // The tooltip of a new name that collides.
+  void SetCollisionTip(const QString& tip) { collision_tip_ = tip; }
 
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& parent = {}) const override;
@@ -45,6 +47,7 @@ class FileListModel : public QAbstractTableModel {
   std::array<QString, file_column::kCount + 1> headings_;
   bool decorated_ = false;
   bool file_tooltips_ = true;
+  QString collision_tip_;
 };
 
 }  // namespace tarnwick::gui

@@ -137,7 +137,13 @@ void MainWindow::BuildWidgets() {
   progress_->setObjectName("prgBar");
   progress_->setMaximumWidth(220);
   progress_->hide();
+  conflicts_ = new QLabel(this);
+  conflicts_->setObjectName("lblConflicts");
+  conflicts_->setTextFormat(Qt::RichText);
+  conflicts_->hide();
+  connect(conflicts_, &QLabel::linkActivated, this, [this] { RevealFirstConflict(); });
   statusBar()->addWidget(status_, 1);
+  statusBar()->addPermanentWidget(conflicts_);
   statusBar()->addPermanentWidget(progress_);
 }
 
@@ -160,6 +166,7 @@ QWidget* MainWindow::BuildListPane() {
   layout->addLayout(filter);
 
   model_ = new FileListModel(list_, preview_, this);
+  model_->SetCollisionTip(Msg(messages_, "main.tip.collision"));
   model_->SetHeadings(ColumnHeadings(options_, messages_),
                       std::string(messages_.Text("result_list.column_new_name")));
   files_ = new QTableView(pane);
@@ -515,9 +522,11 @@ void MainWindow::RestartNewNames() {
   new_name_restart_.stop();
   if (!new_names_shown_ || app_.run_active) {
     new_name_timer_.stop();
+    ShowConflictLink();
     return;
   }
   preview_.Start(SampleEnv());
+  ShowConflictLink();
   model_->NewNamesChanged(0, model_->rowCount() - 1);
   new_name_timer_.start();
 }
@@ -531,6 +540,7 @@ void MainWindow::NewNameSlice() {
   }
   if (done) {
     new_name_timer_.stop();
+    ShowConflictLink();
   }
 }
 
@@ -539,10 +549,27 @@ void MainWindow::FinishNewNames() {
   while (new_name_timer_.isActive()) NewNameSlice();
 }
 
+void MainWindow::ShowConflictLink() {
+  const std::size_t count = new_names_shown_ ? preview_.collision_count() : 0;
+  conflicts_->setVisible(count > 0);
+  if (count == 0) return;
+  conflicts_->setText("<a href=\"#conflict\" style=\"color:#b00000\">" +
+                      Q(CollisionText(messages_, count)).toHtmlEscaped() + "</a>");
+}
+
+void MainWindow::RevealFirstConflict() {
+  for (const NewNameRow& row : preview_.rows()) {
+    if (!row.collides) continue;
+    const QModelIndex index = model_->index(static_cast<int>(row.row), FileListModel::kNewNameColumn);
+    files_->scrollTo(index, QAbstractItemView::PositionAtCenter);
+    files_->selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+    return;
+  }
+}
+
 QString MainWindow::NewNameStatus() const {
   if (!new_names_shown_ || preview_.collision_count() == 0) return {};
-  return "    " + Q(FillMessage(messages_.Text("main.status.collisions"),
-                                {std::to_string(preview_.collision_count())}));
+  return "    " + Q(CollisionText(messages_, preview_.collision_count()));
 }
 
 // --- The sample. ----------------------------------------------------------------
@@ -613,7 +640,13 @@ void MainWindow::StartRenaming() {
   new_name_timer_.stop();
   ViewSelectionToList();
   starting_run_ = true;
-  const RenameRunResult result = StartRename(RunEnv());
+  RenameRunEnv env = RunEnv();
+  if (new_names_shown_) {
+    // The start question says how many new names collide.
+    FinishNewNames();
+    env.new_name_collisions = preview_.collision_count();
+  }
+  const RenameRunResult result = StartRename(env);
   starting_run_ = false;
   AfterJob();
   if (result.stopped && !result.focus_field.empty()) {

@@ -142,6 +142,7 @@ class MainWindow : public QMainWindow, public ProgressView {
   QGroupBox* sample_frame() const { return sample_frame_; }
   QLabel* status_label() const { return status_; }
   QPushButton* start_button() const { return start_; }
+  QLabel* conflict_link() const { return conflicts_; }
   QTreeView* folder_view() const { return folders_; }
 
  protected:
@@ -185,6 +186,9 @@ class MainWindow : public QMainWindow, public ProgressView {
   void RestartNewNames();
   void NewNameSlice();
   QString NewNameStatus() const;
+  // The status bar's link to the new names that collide, shown while any do.
+  void ShowConflictLink();
+  void RevealFirstConflict();
   void ShowActionOrder();
   void OpenPatternPicker(QLineEdit* field);
   void OpenPath(const std::string& path);
@@ -239,6 +243,7 @@ class MainWindow : public QMainWindow, public ProgressView {
   QLineEdit* sample_ = nullptr;
   QPushButton* start_ = nullptr;
   QLabel* status_ = nullptr;
+  QLabel* conflicts_ = nullptr;  // "3 new names collide", a link to the first
   QProgressBar* progress_ = nullptr;
   QTimer change_timer_;      // tmrChange
   QTimer new_name_timer_;    // the slices of the "New name" column

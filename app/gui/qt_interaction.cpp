@@ -118,7 +118,7 @@ Answer QtInteraction::ShowMessage(const MessageBoxRequest& request) {
 }
 
 StartRenamingChoice QtInteraction::AskStartRenaming(const StartRenamingRequest& request) {
-  StartRenamingDialog dialog(messages_, window_);
+  StartRenamingDialog dialog(messages_, request.collisions, window_);
   dialog.exec();
   return dialog.choice();
 }

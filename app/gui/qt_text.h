@@ -3,6 +3,7 @@
 #include <QString>
 #include <cstddef>
 #include <string>
+#include <string>
 #include <string_view>
 
 #include "shell/message_table.h"
@@ -43,6 +44,12 @@ inline QString Msg(const MessageTable& messages, std::string_view key) {
 inline QString WithoutColon(QString text) {
   if (text.endsWith(':')) text.chop(1);
   return text;
+}
+
+// "1 new name collides", "30 new names collide".
+inline std::string CollisionText(const MessageTable& messages, std::size_t count) {
+  if (count == 1) return std::string(messages.Text("main.status.collision_one"));
+  return FillMessage(messages.Text("main.status.collisions"), {std::to_string(count)});
 }
 
 }  // namespace tarnwick::gui

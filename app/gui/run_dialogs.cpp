@@ -27,11 +27,18 @@ QLabel* Note(const QString& text, QWidget* parent) {
 
 }  // namespace
 
-StartRenamingDialog::StartRenamingDialog(const MessageTable& messages, QWidget* parent)
+StartRenamingDialog::StartRenamingDialog(const MessageTable& messages, std::size_t collisions,
+                                         QWidget* parent)
     : QDialog(parent) {
   setWindowTitle(Msg(messages, "run.start_title"));
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(Note(Msg(messages, "run.start_note"), this));
+  if (collisions > 0) {
+    QLabel* warning = Note(Q(CollisionText(messages, collisions)), this);
+    warning->setObjectName("lblCollisions");
+    warning->setStyleSheet("color: #b00000; font-weight: bold;");
+    layout->addWidget(warning);
+  }
   auto* buttons = new QDialogButtonBox(this);
   auto* rename =
       buttons->addButton(Msg(messages, "run.button_rename"), QDialogButtonBox::AcceptRole);

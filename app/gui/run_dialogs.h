@@ -18,7 +18,10 @@ class StartRenamingDialog : public QDialog {
   Q_OBJECT
 
  public:
-  StartRenamingDialog(const MessageTable& messages, QWidget* parent = nullptr);
+  // `collisions`: the new names that collide; a line under the question
+  // says how many, so nobody starts a run of collisions unawares.
+  StartRenamingDialog(const MessageTable& messages, std::size_t collisions = 0,
+                      QWidget* parent = nullptr);
   StartRenamingChoice choice() const { return choice_; }
 
  private:

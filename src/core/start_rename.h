@@ -3,6 +3,7 @@
 // Called by tarnwick-cli (run, preview) and by the unattended start "-d";
 // the desktop application's start button calls it the same way.
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -41,6 +42,9 @@ struct RenameRunEnv {
   FileListLoader* loader = nullptr;
   // The dialect of the undo batch's text.
   UndoBatchTarget undo_target = UndoBatchTarget::kLinux;
+  // The new names that collide, as the front end's "New name" column counts
+  // them; the start question mentions them.
+  std::size_t new_name_collisions = 0;
 };
 
 // How a run went, for the front end's exit code and summary.

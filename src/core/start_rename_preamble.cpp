@@ -116,6 +116,7 @@ bool Confirm(RunContext& run) {
   if (run.env.app.BatchMode || run.mode == RunMode::kTest) return true;
   StartRenamingRequest request;
   request.selected_count = static_cast<std::int32_t>(run.selected_count);
+  request.collisions = run.env.new_name_collisions;
   const StartRenamingChoice choice = run.env.interaction.AskStartRenaming(request);
   if (choice == StartRenamingChoice::kTest) run.mode = RunMode::kTest;
   if (choice != StartRenamingChoice::kCancel) return true;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -14,6 +15,7 @@ enum class StartRenamingChoice { kRename = 0, kTest = 1, kCancel = 3 };
 
 struct StartRenamingRequest {
   std::int32_t selected_count = 0;  // rows the run would work on
+  std::size_t collisions = 0;       // of their new names, those that collide
 };
 
 // --- The file exists already: another name, skip, or cancel the run. -------

@@ -83,9 +83,9 @@ AnsweredQuestion Describe(const MessageBoxRequest& request, Answer answer) {
 }
 
 AnsweredQuestion Describe(const StartRenamingRequest& request, StartRenamingChoice answer) {
-  return Dialogue(QuestionKind::kStartRenaming,
-                  std::to_string(request.selected_count) + " selected files",
-                  std::string(ChoiceName(answer)));
+  std::string text = std::to_string(request.selected_count) + " selected files";
+  if (request.collisions > 0) text += ", " + std::to_string(request.collisions) + " collide";
+  return Dialogue(QuestionKind::kStartRenaming, text, std::string(ChoiceName(answer)));
 }
 
 AnsweredQuestion Describe(const FileExistsRequest& request, const FileExistsAnswer& answer) {

@@ -156,11 +156,25 @@ TEST_F(MainWindowTest, NewNamesThatCollideAreCountedAndTheTestModeTouchesNothing
   const QVariant colour = window->file_view()->model()->data(
       window->file_view()->model()->index(0, FileListModel::kNewNameColumn), Qt::ForegroundRole);
   EXPECT_EQ(colour.value<QBrush>().color(), QColor(Qt::red));
+  // A sign beside the name survives the selection's colours; the status bar
+  // links to the first collision; the start question counts them.
+  EXPECT_FALSE(window->file_view()
+                   ->model()
+                   ->data(window->file_view()->model()->index(0, FileListModel::kNewNameColumn),
+                          Qt::DecorationRole)
+                   .isNull());
+  EXPECT_TRUE(window->conflict_link()->isVisibleTo(window.get()));
+  EXPECT_TRUE(window->conflict_link()->text().contains("4 new names collide"));
+  window->file_view()->scrollToTop();
+  emit window->conflict_link()->linkActivated("#conflict");
+  EXPECT_EQ(window->file_view()->currentIndex().column(), FileListModel::kNewNameColumn);
 
   interaction.Then(StartRenamingChoice::kTest);
   interaction.SetDefault(QuestionKind::kMessageBox, Answer::kNo);
   interaction.SetDefault(QuestionKind::kFileExists, FileExistsAnswer{FileExistsChoice::kSkip});
   window->StartRenaming();
+  EXPECT_EQ(interaction.asked().front().kind, QuestionKind::kStartRenaming);
+  EXPECT_EQ(interaction.asked().front().text, "4 selected files, 4 collide");
   EXPECT_TRUE(Exists("a.txt"));
   EXPECT_EQ(dir.ReadFile("same.txt"), "taken");
   EXPECT_TRUE(interaction.failures().empty());

@@ -4,6 +4,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
@@ -142,4 +143,14 @@ TEST_F(RunDialogsTest, ManualRenameSelectsByPositionAndResetsApplyTheSelection) 
 }
 
 }  // namespace
+TEST_F(RunDialogsTest, TheStartQuestionCountsTheCollisions) {
+  gui::StartRenamingDialog none(messages);
+  EXPECT_EQ(none.findChild<QLabel*>("lblCollisions"), nullptr);
+  gui::StartRenamingDialog one(messages, 1);
+  ASSERT_NE(one.findChild<QLabel*>("lblCollisions"), nullptr);
+  EXPECT_EQ(one.findChild<QLabel*>("lblCollisions")->text(), "1 new name collides");
+  gui::StartRenamingDialog many(messages, 30);
+  EXPECT_EQ(many.findChild<QLabel*>("lblCollisions")->text(), "30 new names collide");
+}
+
 }  // namespace tarnwick::testing
