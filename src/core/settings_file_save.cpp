@@ -1,6 +1,7 @@
 #include <string>
 
 #include "base/path_text.h"
+#include "base/text.h"
 #include "base/vb_error.h"
 #include "core/settings_file.h"
 #include "core/settings_file_items.h"
@@ -115,7 +116,16 @@ SaveSettingsResult SaveSettings(const LogUndoEnv& env, RenameSettings& settings,
   request.chooser.for_saving = true;
   const std::optional<SaveSettingsAnswer> answer = env.interaction.AskSaveSettings(request);
   if (!answer || answer->path.empty()) return {};
-  return SaveSettingsTo(env, settings, answer->path, answer->save_path);
+  // A bare name goes to the folder the chooser starts in (the settings
+  // folder), not to the working folder; a name without ".twr" gets it.
+  std::string path = answer->path;
+  if (path.front() != '/' && !request.chooser.start_folder.empty()) {
+    path = JoinPath(request.chooser.start_folder, path);
+  }
+  if (!EqualsText(ExtensionName(path), kSettingsFileExtension)) {
+    path += "." + std::string(kSettingsFileExtension);
+  }
+  return SaveSettingsTo(env, settings, path, answer->save_path);
 }
 
 }  // namespace tarnwick

@@ -206,6 +206,15 @@ TEST_F(SettingsFileTest, TheDialoguesOfSavingAndLoading) {
   EXPECT_EQ(ask_.asked()[0].title, "Replace blanks");
   EXPECT_EQ(settings.txtPostfix, "end{{space}}");
 
+  // A bare name typed without ".twr" lands in the settings folder with it.
+  SaveSettingsAnswer bare;
+  bare.path = "holiday";
+  ask_.Then(bare);
+  const SaveSettingsResult named = SaveSettings(env_, settings, PathOf("Rename Settings"));
+  ASSERT_EQ(named.outcome, SaveSettingsResult::Outcome::kSaved);
+  EXPECT_EQ(named.path, PathOf("holiday.twr"));  // the folder saved to last, SavePathIni
+  EXPECT_TRUE(std::filesystem::exists(PathOf("holiday.twr")));
+
   // Changed controls with SaveChanges "0": No keeps them, Yes asks for a file.
   options_.SaveOption("SaveChanges", "Options", "0");
   app_.SettingsDirty = true;
