@@ -602,7 +602,10 @@ void MainWindow::SampleTick(bool force) {
       QString::number(list_.SelectedCount()) + ", " + Msg(messages_, "sample.status_path") + " " +
       Q(CompactPath(app_.CurrentPath, 55)) + "]");
   if (list_.empty()) {
-    status_->setText(Msg(messages_, "sample.no_files_in_folder"));
+    // A folder that could not be read says why, not that it is empty.
+    const FileStatus& error = loader_.folder_error();
+    status_->setText(error.ok() ? Msg(messages_, "sample.no_files_in_folder")
+                                : Q(error.description) + ": " + Q(app_.CurrentPath));
     sample_->clear();
     return;
   }

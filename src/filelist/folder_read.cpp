@@ -84,7 +84,14 @@ FolderRead ReadFolder(const std::string& folder, TypeTextCache& types,
                       const FolderReadStep& on_entry) {
   FolderRead read;
   DirHandle dir(::opendir(folder.empty() ? "." : folder.c_str()));
-  if (!dir) return read;
+  if (!dir) {
+    const int error = errno;
+    read.open_error = FileStatus::Error(error == EACCES || error == EPERM ? vb_error::kPermissionDenied
+                                        : error == ENOENT || error == ENOTDIR
+                                            ? vb_error::kPathNotFound
+                                            : vb_error::kPathFileAccessError);
+    return read;
+  }
   read.opened = true;
   const int dir_fd = ::dirfd(dir.get());
   const FolderAttributeReader attributes(folder.empty() ? "." : folder, dir_fd);

@@ -36,8 +36,10 @@ struct FileRecord {
 
 // `FileRecords` of one folder.
 struct FolderRead {
-  // False when the folder could not be opened at all.
+  // False when the folder could not be opened at all; `open_error` then
+  // says why (70 permission denied, 76 path not found).
   bool opened = false;
+  FileStatus open_error;
   // The entries in the order the folder lists them: by name without regard
   // to case, as a Windows folder does (a Linux folder comes in no useful
   // order).

@@ -104,6 +104,7 @@ bool FileListLoader::FillListView(FileList& list, const FillRequest& request) {
   key_still_down_ = false;
   const std::string folder = AbsolutePathName(request.folder, WorkingFolder());
   const FolderRead top = GetFiles(folder);
+  folder_error_ = top.opened ? FileStatus::Success() : top.open_error;
   const bool viewed = ViewFolder(list, folder, top);
   if (viewed && !context_.state.CancelRun && request.include_subfolders) {
     walk_path_.assign(1, {top.device, top.inode});

@@ -56,6 +56,9 @@ class FileListLoader {
   // (no such file, a folder, or a file the list does not show).
   std::vector<std::string> FillListWithFiles(FileList& list, std::span<const std::string> paths);
 
+  // Why the folder of the last fill could not be read; success when it was.
+  const FileStatus& folder_error() const { return folder_error_; }
+
   // The items of the extension box after the last fill.
   std::vector<std::string> Extensions() const { return extensions_.Items(); }
 
@@ -79,6 +82,7 @@ class FileListLoader {
   bool key_still_down_ = false;
   // Esc stopped the fill in hand.
   bool stopped_ = false;
+  FileStatus folder_error_;
   // Device and inode of the folders from the top down to the one walked.
   std::vector<std::pair<std::uint64_t, std::uint64_t>> walk_path_;
 };

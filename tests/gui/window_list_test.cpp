@@ -341,6 +341,17 @@ TEST_F(WindowListTest, TheTooltipOptionsSwitchTheirTooltipsOnAndOff) {
   EXPECT_TRUE(prefix->toolTip().isEmpty());
 }
 
+TEST_F(WindowListTest, AFolderThatCannotBeReadSaysWhyNotThatItIsEmpty) {
+  Open(0);
+  window->SampleTick(true);
+  EXPECT_EQ(window->status_label()->text().toStdString(), "No files in current selected directory.");
+  dir.WriteFile("not a folder", "x");
+  window->ShowFolder(QString::fromStdString((dir.path() / "not a folder").string()));
+  window->SampleTick(true);
+  EXPECT_EQ(window->status_label()->text().toStdString(),
+            "Path not found: " + (dir.path() / "not a folder").string());
+}
+
 // Another thread makes, renames and removes files while the window fills and
 // runs: the files that stay put are always all listed, and a run renames
 // exactly the rows that were selected when it was confirmed.
