@@ -5,6 +5,7 @@
 # fonts-dejavu-core: a font for the window's screenshots on machines without one.
 # qt6-multimedia-dev: the desktop window plays the finish sound through Qt Multimedia.
 # clang, libclang-rt-14-dev: libFuzzer for `make fuzz` and `make fuzz-run`.
+# qt6-translations-l10n: Qt's own texts (Yes/No, file dialogues) in German.
 # Idempotent: when everything is present it only checks and returns.
 set -euo pipefail
 
@@ -15,7 +16,7 @@ packages=(
   libjpeg62-turbo-dev libpng-dev libtiff-dev libgif-dev
   python3
   rename strace
-  qt6-base-dev qt6-multimedia-dev fonts-dejavu-core
+  qt6-base-dev qt6-multimedia-dev qt6-translations-l10n fonts-dejavu-core
   clang libclang-rt-14-dev
 )
 

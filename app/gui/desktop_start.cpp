@@ -3,8 +3,10 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QFileInfo>
+#include <QLibraryInfo>
 #include <QPixmap>
 #include <QTableView>
+#include <QTranslator>
 #include <chrono>
 
 #include "dialog_screenshot.h"
@@ -48,6 +50,15 @@ Language ChosenLanguage(const OptionStore& options) {
   return LanguageChoice(options.GetOption("Language", "Options", ""));
 }
 
+void InstallQtTranslations(QApplication& application, Language language) {
+  if (language != Language::kGerman) return;
+  // Qt's own words (Yes, No, the file dialogues, standard buttons) in German.
+  auto* translator = new QTranslator(&application);
+  if (translator->load("qtbase_de", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+    QApplication::installTranslator(translator);
+  }
+}
+
 namespace {
 
 // Whether Qt can show a window: a display, or a platform chosen by hand.
@@ -69,6 +80,7 @@ int RunDesktop(int& argc, char** argv, std::span<const std::string> args, std::o
   QApplication::setApplicationName("Tarnwick");
   QApplication::setOrganizationName("Oakhollow");
   OptionStore options = OptionStore::ForCurrentUser();
+  InstallQtTranslations(application, ChosenLanguage(options));
   MainWindow window(options, MessageTable::Get(ChosenLanguage(options)));
   // "tarnwick PLAYLIST.m3u": the playlist's folder in the window, the
   // playlist in the editor.
@@ -102,6 +114,7 @@ int RunScreenshot(int& argc, char** argv, std::span<const std::string> args, std
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
   OptionStore options = OptionStore::ForCurrentUser();
+  InstallQtTranslations(application, ChosenLanguage(options));
   MainWindow window(options, MessageTable::Get(ChosenLanguage(options)));
   window.resize(size);
   QElapsedTimer timer;

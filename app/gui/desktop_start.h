@@ -8,6 +8,8 @@
 #include "persist/option_store.h"
 #include "shell/message_table.h"
 
+class QApplication;
+
 namespace tarnwick::gui {
 
 class MainWindow;
@@ -19,6 +21,9 @@ bool StartWindow(MainWindow& window, std::vector<std::string> arguments, std::os
 // The language the options name, read once at start: a switch in the
 // options applies from the next start.
 Language ChosenLanguage(const OptionStore& options);
+
+// Qt's own texts (Yes and No, the file dialogues) in the window's language.
+void InstallQtTranslations(QApplication& application, Language language);
 
 // `tarnwick`, `tarnwick FOLDER`, `tarnwick SETTINGS.twr`: the window through
 // the start-up sequence, then the event loop. Returns the exit status.

@@ -87,6 +87,7 @@ int RunDialogScreenshot(int& argc, char** argv, std::span<const std::string> arg
   QApplication application(argc, argv);
   OptionStore options = OptionStore::ForCurrentUser();
   const MessageTable& messages = MessageTable::Get(ChosenLanguage(options));
+  InstallQtTranslations(application, messages.language());
   MainWindow window(options, messages);
   if (!StartWindow(window, StartFolder(parsed->file), err)) return 2;
   if (!parsed->file.empty()) SelectFileRow(window, parsed->file);

@@ -16,6 +16,7 @@
 #include <QTableView>
 #include <QTest>
 #include <QTimer>
+#include <QTranslator>
 #include <QTreeView>
 #include <sys/stat.h>
 
@@ -27,6 +28,7 @@
 #include "core/action_order.h"
 #include "core/settings_file.h"
 #include "desktop_integration.h"
+#include "desktop_start.h"
 #include "file_list_model.h"
 #include "gui/gui_test_support.h"
 #include "persist/option_store.h"
@@ -398,6 +400,21 @@ TEST_F(MainWindowTest, ViewModesShareTheSelectionAndTheListMenuActs) {
   window->SetListViewMode(MainWindow::ListViewMode::kDetails);
   EXPECT_TRUE(window->file_view()->isVisible());
   EXPECT_FALSE(names->isVisible());
+}
+
+// Qt's own texts follow the window's language: a German window says
+// "Abbrechen" on Qt's standard buttons, not "Cancel".
+TEST(QtTranslationsTest, AGermanWindowGetsQtsOwnGermanTexts) {
+  QApplication& app = Application();
+  gui::InstallQtTranslations(app, Language::kEnglish);
+  EXPECT_TRUE(app.findChildren<QTranslator*>().isEmpty());
+  gui::InstallQtTranslations(app, Language::kGerman);
+  EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), "Abbrechen");
+  for (QTranslator* translator : app.findChildren<QTranslator*>()) {
+    QCoreApplication::removeTranslator(translator);
+    delete translator;
+  }
+  EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), "Cancel");
 }
 
 }  // namespace
