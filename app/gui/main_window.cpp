@@ -91,6 +91,7 @@ MainWindow::MainWindow(OptionStore& options, const MessageTable& messages, Inter
   ShowSettings();
   ShowActionOrder();
   ApplyTooltipOptions();
+  RestoreWindowLayout();
 }
 
 MainWindow::~MainWindow() {
@@ -235,6 +236,8 @@ QWidget* MainWindow::BuildLowerPane() {
   scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   scroll->viewport()->installEventFilter(this);
   settings_scroll_ = scroll;
+  // The panel shows all its controls where the window is tall enough.
+  scroll->setMinimumHeight(std::min(controls_->sizeHint().height() + 4, 560));
   frame_layout->addWidget(scroll);
   layout->addWidget(settings_frame, 1);
   for (QLineEdit* field : controls_->text_fields()) field->installEventFilter(this);

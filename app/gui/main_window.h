@@ -66,6 +66,7 @@ class MainWindow : public QMainWindow, public ProgressView {
   ~MainWindow() override;
 
   const LogUndoEnv& env() const { return env_; }
+  OptionStore& options() { return options_; }
   AppState& app() { return app_; }
   const MessageTable& messages() const { return messages_; }
   RenameSettings& settings() { return settings_; }
@@ -114,6 +115,11 @@ class MainWindow : public QMainWindow, public ProgressView {
   // files that come, go, are renamed or written to refill the list.
   void StartFolderWatch();
   void StopFolderWatch();
+  // The window's size, maximised state and list view, kept between starts.
+  void SaveWindowLayout();
+  void RestoreWindowLayout();
+  static constexpr int kDefaultWidth = 1120;
+  static constexpr int kDefaultHeight = 940;
 
   // The start window while start-up runs.
   void ShowSplash();

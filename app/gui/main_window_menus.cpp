@@ -1,5 +1,7 @@
 // The menus of the main window, and closing it.
 #include <QCloseEvent>
+#include <algorithm>
+#include <cstdlib>
 #include <QDesktopServices>
 #include <QMenuBar>
 #include <QTableView>
@@ -143,7 +145,30 @@ void MainWindow::closeEvent(QCloseEvent* event) {
   }
   change_timer_.stop();
   new_name_timer_.stop();
+  SaveWindowLayout();
   event->accept();
+}
+
+// Beside `Top` and `Left`: the size (of the normal window), whether it was
+// maximised, and the list's view.
+void MainWindow::SaveWindowLayout() {
+  if (!isMaximized() && !isMinimized() && !isFullScreen()) {
+    options_.SaveOption("Width", "Options", std::to_string(width()));
+    options_.SaveOption("Height", "Options", std::to_string(height()));
+  }
+  options_.SaveOption("Maximized", "Options", isMaximized() ? "1" : "0");
+  options_.SaveOption("ListView", "Options", std::to_string(static_cast<int>(view_mode_)));
+}
+
+void MainWindow::RestoreWindowLayout() {
+  const auto number = [this](const char* key, int fallback) {
+    const long value = std::strtol(options_.GetOption(key, "Options", "").c_str(), nullptr, 10);
+    return value > 0 ? static_cast<int>(value) : fallback;
+  };
+  // The default shows the whole panel of renaming controls.
+  resize(std::max(640, number("Width", kDefaultWidth)), std::max(480, number("Height", kDefaultHeight)));
+  const long mode = std::strtol(options_.GetOption("ListView", "Options", "1").c_str(), nullptr, 10);
+  if (mode >= 0 && mode <= 2) SetListViewMode(static_cast<ListViewMode>(mode));
 }
 
 }  // namespace tarnwick::gui

@@ -7,6 +7,7 @@
 #include "core/start_rename.h"
 #include "desktop_integration.h"
 #include "main_window.h"
+#include "persist/option_store.h"
 #include "qt_text.h"
 #include "unattended_start.h"
 
@@ -28,6 +29,11 @@ void WindowHost::PlaceMainWindow(int top, int left) {
     return;
   }
   const QRect area = screen->availableGeometry();
+  // A size kept from a larger screen gives way to this one.
+  window_.resize(std::min(window_.width(), area.width()), std::min(window_.height(), area.height()));
+  if (window_.options().GetOption("Maximized", "Options", "0") == "1") {
+    window_.setWindowState(window_.windowState() | Qt::WindowMaximized);
+  }
   const QSize size = window_.frameGeometry().size();
   const int x = std::max(area.left(), std::min(left, area.right() + 1 - size.width()));
   const int y = std::max(area.top(), std::min(top, area.bottom() + 1 - size.height()));

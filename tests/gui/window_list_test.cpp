@@ -352,6 +352,23 @@ TEST_F(WindowListTest, AFolderThatCannotBeReadSaysWhyNotThatItIsEmpty) {
             "Path not found: " + (dir.path() / "not a folder").string());
 }
 
+TEST_F(WindowListTest, SizeAndListViewAreKeptBetweenStarts) {
+  options.SaveOption("Width", "Options", "700");
+  options.SaveOption("Height", "Options", "600");
+  options.SaveOption("ListView", "Options", "2");
+  window = std::make_unique<MainWindow>(options, MessageTable::Get(Language::kEnglish));
+  EXPECT_EQ(window->size(), QSize(700, 600));
+  EXPECT_EQ(window->list_view_mode(), MainWindow::ListViewMode::kSymbols);
+  window->SetListViewMode(MainWindow::ListViewMode::kList);
+  window->resize(720, 610);
+  window->show();
+  EXPECT_TRUE(window->close());
+  EXPECT_EQ(options.GetOption("Width", "Options", ""), "720");
+  EXPECT_EQ(options.GetOption("Height", "Options", ""), "610");
+  EXPECT_EQ(options.GetOption("ListView", "Options", ""), "0");
+  EXPECT_EQ(options.GetOption("Maximized", "Options", ""), "0");
+}
+
 // Another thread makes, renames and removes files while the window fills and
 // runs: the files that stay put are always all listed, and a run renames
 // exactly the rows that were selected when it was confirmed.
