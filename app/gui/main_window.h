@@ -98,6 +98,11 @@ class MainWindow : public QMainWindow, public ProgressView {
   // `mnuMoveCopyFiles` and `mnuRenameFromFile` on the selected rows.
   void CopyMoveFiles();
   void RenameFromTextFile();
+  // Takes the newest run of the undo batch back: what it would do first, in
+  // the result list, then a question, then the moves, never overwriting.
+  void UndoLastRun();
+  // The undo batch runs are written to now.
+  std::string CurrentUndoBatch() const;
   void EditActionOrder();
   void EditOptions();
   // The playlist editor: with `playlist` loaded; without one, with the

@@ -12,6 +12,7 @@
 #include "filelist/column_headings.h"
 #include "main_window.h"
 #include "persist/log_options.h"
+#include "platform/files.h"
 #include "options_dialog.h"
 #include "pattern_picker_dialog.h"
 #include "playlist_dialog.h"
@@ -89,6 +90,14 @@ void MainWindow::BuildMenus() {
                    &MainWindow::RenameFromTextFile)
       ->setObjectName("mnuRenameFromFile");
   tools->addSeparator();
+  QAction* undo = tools->addAction(Msg(messages_, "main.menu.undo_last_run"),
+                                   QKeySequence::Undo, this, &MainWindow::UndoLastRun);
+  undo->setObjectName("mnuUndoLastRun");
+  // Offered while runs write an undo batch and the batch is there.
+  connect(tools, &QMenu::aboutToShow, this, [this, undo] {
+    undo->setEnabled(options_.GetOption("WriteUndoList", "Options", "1") != "0" &&
+                     FileExists(CurrentUndoBatch()));
+  });
   tools->addAction(Msg(messages_, "main.menu.show_log"), QKeySequence(Qt::Key_F7), this,
                    [this] { OpenPath(RunLog(env_).LogFilePath()); });
   tools->addAction(Msg(messages_, "main.menu.undo_folder"), QKeySequence(Qt::Key_F8), this,

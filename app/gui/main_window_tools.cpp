@@ -5,6 +5,10 @@
 #include "main_window.h"
 #include "qt_text.h"
 #include "rename_text_dialog.h"
+#include "base/path_text.h"
+#include "core/undo_runner.h"
+#include "persist/log_options.h"
+#include "platform/files.h"
 #include "tools/copy_move.h"
 #include "tools/rename_from_text.h"
 
@@ -56,6 +60,50 @@ void MainWindow::RenameFromTextFile() {
   tarnwick::RenameFromTextFile(RunEnv(), file);
   starting_run_ = false;
   AfterJob();
+}
+
+std::string MainWindow::CurrentUndoBatch() const {
+  const std::string name =
+      !log_state_.UndoBatchName.empty()
+          ? log_state_.UndoBatchName
+          : options_.GetOption("BasisNameUndoBatch", "Options", "UndoBatch") + ".bat";
+  return JoinPath(UndoFolderPath(options_, log_state_), name);
+}
+
+void MainWindow::UndoLastRun() {
+  const std::string batch = CurrentUndoBatch();
+  const std::string title(messages_.Text("main.menu.undo_last_run"));
+  if (!FileExists(batch)) {
+    interaction_->ShowMessage({title, std::string(messages_.Text("undo.nothing_to_undo")) +
+                                          "\r\n" + batch,
+                               Buttons::kOk, MessageIcon::kInformation, Topic::kNotice});
+    return;
+  }
+  std::vector<TestResultRow> preview;
+  RunUndoBatch(batch, {.dry_run = true, .runs = 1}, [&](const UndoStep& step) {
+    if (step.outcome != UndoStepOutcome::kWouldDo || step.line.command != "move") return;
+    preview.push_back({LastPathElement(step.line.new_path), LastPathElement(step.line.old_path),
+                       ParentFolder(step.line.new_path)});
+  });
+  interaction_->ShowTestResults(preview);
+  const Answer answer = interaction_->ShowMessage(
+      {title, FillMessage(messages_.Text("undo.last_run_question"), {std::to_string(preview.size())}),
+       Buttons::kYesNo, MessageIcon::kQuestion, Topic::kRunUndoBatch});
+  if (answer != Answer::kYes) return;
+  std::vector<std::string> failures;
+  const UndoReport report = RunUndoBatch(batch, {.runs = 1}, [&](const UndoStep& step) {
+    if (step.outcome == UndoStepOutcome::kFailed) {
+      failures.push_back(step.line.new_path + ": " + step.status.description);
+    }
+  });
+  std::string text = FillMessage(messages_.Text("options.undo_batch_done"),
+                                 {std::to_string(report.done), std::to_string(report.failed),
+                                  std::to_string(report.skipped)});
+  for (std::size_t i = 0; i < failures.size() && i < kFailuresShown; ++i) text += "\r\n" + failures[i];
+  interaction_->ShowMessage({title, text, Buttons::kOk,
+                             report.failed > 0 ? MessageIcon::kExclamation : MessageIcon::kInformation,
+                             Topic::kNotice});
+  FillListFiles();
 }
 
 void MainWindow::ShowToolFailures(const ToolJobResult& result) {

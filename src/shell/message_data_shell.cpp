@@ -135,6 +135,14 @@ constexpr MessageEntry kEntries[] = {
      "Neue Namen in der Liste zeigen"},
     {0, "main.status.collisions", "%1 new names collide", "%1 neue Namen kollidieren"},
     {0, "main.status.collision_one", "1 new name collides", "1 neuer Name kollidiert"},
+    // Undo of the last run from the window; the words are ours.
+    {0, "main.menu.undo_last_run", "Undo last run", "Letzten Lauf rückgängig machen"},
+    {0, "undo.last_run_question",
+     "Take the last run back? %1 file(s) get their former names again (the list shows which).",
+     "Den letzten Lauf rückgängig machen? %1 Datei(en) erhalten ihre früheren Namen zurück (die "
+     "Liste zeigt welche)."},
+    {0, "undo.nothing_to_undo", "There is no run to take back: the undo batch is missing:",
+     "Es gibt keinen Lauf zum Rückgängigmachen: der Undo-Batch fehlt:"},
     {0, "main.tip.collision", "Another file has this name already, or another row gets it too",
      "Eine andere Datei hat diesen Namen schon, oder eine andere Zeile bekommt ihn auch"},
     {0, "main.status.new_names", "New names: %1", "Neue Namen: %1"},

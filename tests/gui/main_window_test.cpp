@@ -143,6 +143,22 @@ TEST_F(MainWindowTest, PrefixAndNumberingShowInTheSampleAndTheRunRenames) {
         config.ReadFile(entry.path().filename().string()).find("a.txt") != std::string::npos;
   }
   EXPECT_TRUE(batch_found);
+
+  // Tools > Undo last run: what it would do in the result list, a question,
+  // then every file back under its old name and the list read again.
+  interaction.Then(Answer::kNo);
+  window->UndoLastRun();
+  EXPECT_EQ(interaction.test_results().size(), 3u);
+  EXPECT_EQ(interaction.test_results()[0].new_name, "c.txt");  // newest line first
+  EXPECT_TRUE(Exists("07-IMG_a.txt"));  // No: nothing moved
+  interaction.Then(Answer::kYes).Then(Answer::kOk);
+  window->UndoLastRun();
+  EXPECT_TRUE(Exists("a.txt"));
+  EXPECT_TRUE(Exists("b.txt"));
+  EXPECT_TRUE(Exists("c.txt"));
+  EXPECT_EQ(CellText(0, 0), "a.txt");
+  EXPECT_NE(interaction.asked().back().text.find("3 done, 0 failed"), std::string::npos)
+      << interaction.asked().back().text;
 }
 
 TEST_F(MainWindowTest, NewNamesThatCollideAreCountedAndTheTestModeTouchesNothing) {
