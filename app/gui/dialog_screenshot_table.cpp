@@ -64,6 +64,10 @@ std::unique_ptr<QDialog> MakeStartRenaming(DialogShotContext& c) {
                                                &c.window);
 }
 
+std::unique_ptr<QDialog> MakeRunSummary(DialogShotContext& c) {
+  return std::make_unique<RunSummaryDialog>(RunSummary{0, 118, 3, 1, false}, c.messages, &c.window);
+}
+
 std::unique_ptr<QDialog> MakeFileExists(DialogShotContext& c) {
   FileExistsRequest request;
   request.original_name = FileNameOr(c, "holiday.jpg");
@@ -139,6 +143,7 @@ std::span<const DialogShot> DialogShots() {
       {"action-order", "the order of the renaming actions", MakeActionOrder},
       {"placeholder-picker", "the placeholder list", MakePlaceholderPicker},
       {"start-renaming", "the question before a run", MakeStartRenaming},
+      {"run-summary", "the counts after a run", MakeRunSummary},
       {"file-exists", "a new name that is taken (FILE: the row)", MakeFileExists},
       {"manual-rename", "a name edited by hand during a run (FILE: the row)", MakeManualRename},
       {"save-settings", "saving a settings file (FILE: the preset path)", MakeSaveSettings},

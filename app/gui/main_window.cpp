@@ -655,9 +655,20 @@ void MainWindow::StartRenaming() {
   const RenameRunResult result = StartRename(env);
   starting_run_ = false;
   AfterJob();
+  ShowRunSummary(result);
   if (result.stopped && !result.focus_field.empty()) {
     if (QWidget* field = findChild<QWidget*>(Q(result.focus_field))) field->setFocus();
   }
+}
+
+// Every rename or copy run that touched files ends with its counts; a test
+// has its own question and list.
+void MainWindow::ShowRunSummary(const RenameRunResult& result) {
+  if (!result.ran || result.mode == kModeTest) return;
+  const RunSummaryChoice choice = interaction_->ShowRunSummary(
+      {result.mode, result.done, result.skipped, result.failed, result.cancelled});
+  if (choice == RunSummaryChoice::kShowLog) OpenPath(RunLog(env_).LogFilePath());
+  if (choice == RunSummaryChoice::kUndo) UndoLastRun();
 }
 
 RenameRunEnv MainWindow::RunEnv() {

@@ -190,6 +190,7 @@ class MainWindow : public QMainWindow, public ProgressView {
   // The window after a run or a tool job: the list, its selection, the
   // sample and the new names shown anew.
   void AfterJob();
+  void ShowRunSummary(const RenameRunResult& result);
   // The files a tool failed on, in a box; nothing when none failed.
   void ShowToolFailures(const ToolJobResult& result);
   void ViewSelectionToList();

@@ -135,6 +135,12 @@ ManualRenameAnswer QtInteraction::AskManualRename(const ManualRenameRequest& req
   return dialog.answer();
 }
 
+RunSummaryChoice QtInteraction::ShowRunSummary(const RunSummary& summary) {
+  RunSummaryDialog dialog(summary, messages_, window_);
+  dialog.exec();
+  return dialog.choice();
+}
+
 void QtInteraction::PlayWave(const std::string& path) { sound_.Play(Q(path)); }
 
 void QtInteraction::ShowTestResults(const std::vector<TestResultRow>& rows) {

@@ -43,6 +43,7 @@ class QtInteraction : public QObject, public Interaction {
   FileExistsAnswer AskFileExists(const FileExistsRequest& request) override;
   ManualRenameAnswer AskManualRename(const ManualRenameRequest& request) override;
   void ShowTestResults(const std::vector<TestResultRow>& rows) override;
+  RunSummaryChoice ShowRunSummary(const RunSummary& summary) override;
   std::optional<std::string> AskInput(const InputRequest& request) override;
   std::optional<std::string> ChooseFile(const FileChooserRequest& request) override;
   std::optional<std::string> ChooseFolder(const FolderChooserRequest& request) override;

@@ -61,6 +61,45 @@ StartRenamingDialog::StartRenamingDialog(const MessageTable& messages, std::size
   connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
 }
 
+RunSummaryDialog::RunSummaryDialog(const RunSummary& summary, const MessageTable& messages,
+                                   QWidget* parent)
+    : QDialog(parent) {
+  setObjectName("frmRunSummary");
+  setWindowTitle(Msg(messages, summary.cancelled ? "run.summary_title_cancelled"
+                                                 : "run.summary_title_done"));
+  auto* layout = new QVBoxLayout(this);
+  const std::string counts = FillMessage(
+      messages.Text(summary.mode == 1 ? "run.summary_copied" : "run.summary_renamed"),
+      {std::to_string(summary.done), std::to_string(summary.skipped),
+       std::to_string(summary.failed)});
+  QLabel* text = Note(Q(counts), this);
+  text->setObjectName("lblSummary");
+  text->setWordWrap(false);
+  if (summary.failed > 0) text->setStyleSheet("color: #b00000; font-weight: bold;");
+  layout->addWidget(text);
+  layout->addSpacing(8);
+  setMinimumWidth(400);
+  auto* buttons = new QDialogButtonBox(this);
+  auto* log = buttons->addButton(Msg(messages, "run.summary_show_log"), QDialogButtonBox::ActionRole);
+  log->setObjectName("cmdShowLog");
+  auto* undo = buttons->addButton(Msg(messages, "run.summary_undo"), QDialogButtonBox::ActionRole);
+  undo->setObjectName("cmdUndo");
+  undo->setEnabled(summary.done > 0);
+  auto* close = buttons->addButton(Msg(messages, "run.summary_close"), QDialogButtonBox::AcceptRole);
+  close->setObjectName("cmdClose");
+  close->setDefault(true);
+  layout->addWidget(buttons);
+  connect(log, &QPushButton::clicked, this, [this] {
+    choice_ = RunSummaryChoice::kShowLog;
+    accept();
+  });
+  connect(undo, &QPushButton::clicked, this, [this] {
+    choice_ = RunSummaryChoice::kUndo;
+    accept();
+  });
+  connect(close, &QPushButton::clicked, this, &QDialog::accept);
+}
+
 FileExistsDialog::FileExistsDialog(const FileExistsRequest& request, const MessageTable& messages,
                                    Interaction& notices, QWidget* parent)
     : QDialog(parent), request_(request), messages_(messages), notices_(notices) {

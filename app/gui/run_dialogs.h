@@ -28,6 +28,20 @@ class StartRenamingDialog : public QDialog {
   StartRenamingChoice choice_ = StartRenamingChoice::kCancel;
 };
 
+// After a run: how many files were renamed (or copied), skipped and failed,
+// with "Show log" and "Undo".
+class RunSummaryDialog : public QDialog {
+  Q_OBJECT
+
+ public:
+  RunSummaryDialog(const RunSummary& summary, const MessageTable& messages,
+                   QWidget* parent = nullptr);
+  RunSummaryChoice choice() const { return choice_; }
+
+ private:
+  RunSummaryChoice choice_ = RunSummaryChoice::kClose;
+};
+
 // `frmFileExists`: another name, Skip, or Cancel the run. OK with a name that
 // differs from the proposal only by case is refused with a notice through
 // `notices`, and the dialogue stays open.

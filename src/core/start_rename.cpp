@@ -41,6 +41,7 @@ RenameRunResult StartRename(const RenameRunEnv& env) {
     run.result.stop_message = error.what();
     return run.result;
   }
+  run.result.ran = true;
   run.result.mode = static_cast<int>(run.mode);
   SetUpRun(run);
   if (!env.app.CancelRun) RunFiles(run);
@@ -67,6 +68,7 @@ RenameRunResult RenameWithGivenNames(const RenameRunEnv& env,
   env.options.SaveOption("SkipExistingFiles", "Options", "0");
   run.undo.PrepareUndoBatchName();
   run.mode = ModeOf(env.settings.optCopyRename);
+  run.result.ran = true;
   run.result.mode = static_cast<int>(run.mode);
   run.started = std::chrono::steady_clock::now();
   SetUpRun(run);

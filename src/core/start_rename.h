@@ -55,6 +55,7 @@ struct RenameRunResult {
   std::string stop_message;  // the box's text
   std::string focus_field;   // the control the box puts the focus on; may be empty
 
+  bool ran = false;          // the checks and the question passed: files were gone through
   int mode = 0;              // the mode the run took: 0 rename, 1 copy, 2 test
   std::int64_t done = 0;     // renamed, copied, or listed by a test
   std::int64_t failed = 0;   // an error of the file was reported

@@ -50,6 +50,13 @@ class Interaction {
   // Default: shown without waiting (the command line prints it).
   virtual void ShowTestResults(const std::vector<TestResultRow>& rows) = 0;
 
+  // The counts of a finished rename or copy run, with the way to its log
+  // and to its undo. Default: nothing is shown (the command line prints its
+  // own counts).
+  virtual RunSummaryChoice ShowRunSummary(const RunSummary& summary) {
+    return RunSummaryChoice::kClose;
+  }
+
   // An input box; the text entered, or nothing for Cancel.
   // Default: the preset, as if OK was pressed at once.
   virtual std::optional<std::string> AskInput(const InputRequest& request) = 0;

@@ -120,6 +120,18 @@ struct SaveSettingsRequest {
   FileChooserRequest chooser;
 };
 
+// --- The summary after a run of the window. -------------------------------
+
+struct RunSummary {
+  int mode = 0;  // 0 rename, 1 copy
+  std::int64_t done = 0;
+  std::int64_t skipped = 0;
+  std::int64_t failed = 0;
+  bool cancelled = false;
+};
+
+enum class RunSummaryChoice { kClose, kShowLog, kUndo };
+
 struct SaveSettingsAnswer {
   std::string path;        // never empty: Cancel gives no answer at all
   bool save_path = false;  // "Save current selected path"

@@ -137,6 +137,15 @@ constexpr MessageEntry kEntries[] = {
     {0, "main.status.collision_one", "1 new name collides", "1 neuer Name kollidiert"},
     // Undo of the last run from the window; the words are ours.
     {0, "main.menu.undo_last_run", "Undo last run", "Letzten Lauf rückgängig machen"},
+    {0, "run.summary_title_done", "Run finished", "Lauf beendet"},
+    {0, "run.summary_title_cancelled", "Run cancelled", "Lauf abgebrochen"},
+    {0, "run.summary_renamed", "%1 renamed, %2 skipped, %3 failed",
+     "%1 umbenannt, %2 übersprungen, %3 fehlgeschlagen"},
+    {0, "run.summary_copied", "%1 copied, %2 skipped, %3 failed",
+     "%1 kopiert, %2 übersprungen, %3 fehlgeschlagen"},
+    {0, "run.summary_show_log", "Show log", "Log anzeigen"},
+    {0, "run.summary_undo", "Undo", "Rückgängig"},
+    {0, "run.summary_close", "Close", "Schließen"},
     {0, "undo.last_run_question",
      "Take the last run back? %1 file(s) get their former names again (the list shows which).",
      "Den letzten Lauf rückgängig machen? %1 Datei(en) erhalten ihre früheren Namen zurück (die "

@@ -72,6 +72,9 @@ class ScriptedInteraction : public Interaction {
   bool controls_enabled() const { return controls_enabled_; }
   const std::vector<std::string>& waves_played() const { return waves_; }
   const std::vector<TestResultRow>& test_results() const { return test_results_; }
+  const std::vector<RunSummary>& run_summaries() const { return run_summaries_; }
+  // What the summary after a run answers; Close unless set.
+  void SetRunSummaryChoice(RunSummaryChoice choice) { run_summary_choice_ = choice; }
   int poll_count() const { return polls_; }
   int yield_count() const { return yields_; }
 
@@ -82,6 +85,10 @@ class ScriptedInteraction : public Interaction {
   FileExistsAnswer AskFileExists(const FileExistsRequest& request) override;
   ManualRenameAnswer AskManualRename(const ManualRenameRequest& request) override;
   void ShowTestResults(const std::vector<TestResultRow>& rows) override;
+  RunSummaryChoice ShowRunSummary(const RunSummary& summary) override {
+    run_summaries_.push_back(summary);
+    return run_summary_choice_;
+  }
   std::optional<std::string> AskInput(const InputRequest& request) override;
   std::optional<std::string> ChooseFile(const FileChooserRequest& request) override;
   std::optional<std::string> ChooseFolder(const FolderChooserRequest& request) override;
@@ -118,6 +125,8 @@ class ScriptedInteraction : public Interaction {
   bool controls_enabled_ = true;
   std::vector<std::string> waves_;
   std::vector<TestResultRow> test_results_;
+  std::vector<RunSummary> run_summaries_;
+  RunSummaryChoice run_summary_choice_ = RunSummaryChoice::kClose;
   bool cancel_pressed_ = false;
   int cancel_at_poll_ = 0;
   int polls_ = 0;

@@ -161,6 +161,33 @@ TEST_F(MainWindowTest, PrefixAndNumberingShowInTheSampleAndTheRunRenames) {
       << interaction.asked().back().text;
 }
 
+TEST_F(MainWindowTest, TheSummaryAfterARunCountsItAndItsUndoTakesTheRunBack) {
+  Tick("chkPrefix");
+  Type("txtPrefix", "x_");
+  window->SelectAll();
+  interaction.SetRunSummaryChoice(RunSummaryChoice::kUndo);
+  interaction.Then(StartRenamingChoice::kRename).Then(Answer::kYes).Then(Answer::kOk);
+  window->StartRenaming();
+  ASSERT_EQ(interaction.run_summaries().size(), 1u);
+  const RunSummary& summary = interaction.run_summaries().front();
+  EXPECT_EQ(summary.mode, 0);
+  EXPECT_EQ(summary.done, 3);
+  EXPECT_EQ(summary.failed, 0);
+  EXPECT_FALSE(summary.cancelled);
+  // Undo from the summary: every file has its old name again.
+  EXPECT_TRUE(Exists("a.txt"));
+  EXPECT_TRUE(Exists("c.txt"));
+  EXPECT_FALSE(Exists("x_a.txt"));
+  EXPECT_TRUE(interaction.failures().empty());
+
+  // A test run has its own list and no summary; a cancelled question none.
+  interaction.Then(StartRenamingChoice::kTest);
+  window->StartRenaming();
+  interaction.Then(StartRenamingChoice::kCancel);
+  window->StartRenaming();
+  EXPECT_EQ(interaction.run_summaries().size(), 1u);
+}
+
 TEST_F(MainWindowTest, NewNamesThatCollideAreCountedAndTheTestModeTouchesNothing) {
   dir.WriteFile("same.txt", "taken");
   window->FillListFiles();

@@ -142,7 +142,6 @@ TEST_F(RunDialogsTest, ManualRenameSelectsByPositionAndResetsApplyTheSelection) 
   EXPECT_FALSE(cursor.select_all);
 }
 
-}  // namespace
 TEST_F(RunDialogsTest, TheStartQuestionCountsTheCollisions) {
   gui::StartRenamingDialog none(messages);
   EXPECT_EQ(none.findChild<QLabel*>("lblCollisions"), nullptr);
@@ -152,5 +151,27 @@ TEST_F(RunDialogsTest, TheStartQuestionCountsTheCollisions) {
   gui::StartRenamingDialog many(messages, 30);
   EXPECT_EQ(many.findChild<QLabel*>("lblCollisions")->text(), "30 new names collide");
 }
+
+TEST_F(RunDialogsTest, TheSummaryCountsTheRunAndOffersLogAndUndo) {
+  gui::RunSummaryDialog copied({1, 4, 1, 2, true}, messages);
+  EXPECT_EQ(copied.windowTitle(), "Run cancelled");
+  EXPECT_EQ(copied.findChild<QLabel*>("lblSummary")->text(), "4 copied, 1 skipped, 2 failed");
+  copied.findChild<QPushButton*>("cmdShowLog")->click();
+  EXPECT_EQ(copied.choice(), RunSummaryChoice::kShowLog);
+
+  const MessageTable& german = MessageTable::Get(Language::kGerman);
+  gui::RunSummaryDialog renamed({0, 3, 0, 0, false}, german);
+  EXPECT_EQ(renamed.windowTitle(), "Lauf beendet");
+  EXPECT_EQ(renamed.findChild<QLabel*>("lblSummary")->text(),
+            "3 umbenannt, 0 übersprungen, 0 fehlgeschlagen");
+  renamed.findChild<QPushButton*>("cmdUndo")->click();
+  EXPECT_EQ(renamed.choice(), RunSummaryChoice::kUndo);
+
+  // Nothing done: nothing to take back.
+  gui::RunSummaryDialog none({0, 0, 2, 0, false}, messages);
+  EXPECT_FALSE(none.findChild<QPushButton*>("cmdUndo")->isEnabled());
+}
+
+}  // namespace
 
 }  // namespace tarnwick::testing

@@ -52,11 +52,16 @@ class WindowListTest : public GuiTest {
     options.SaveOption("PlayFinishSound", "Options", "0");
     options.SaveOption("LogOnlyRename", "Options", "0");  // the fill's lines too
     options.SaveOption("Icons", "Options", "0");          // no notice at a fill with subfolders
-    // What a run asks on the way (a file that is gone: go on?) is answered Yes.
+    // What a run asks on the way (a file that is gone: go on?) is answered
+    // Yes, and the summary after a run is closed.
     yes_to_questions.setInterval(50);
     QObject::connect(&yes_to_questions, &QTimer::timeout, [] {
-      if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+      QWidget* modal = QApplication::activeModalWidget();
+      if (auto* box = qobject_cast<QMessageBox*>(modal)) {
         if (QAbstractButton* yes = box->button(QMessageBox::Yes)) yes->click();
+      }
+      if (modal != nullptr && modal->objectName() == "frmRunSummary") {
+        if (auto* close = modal->findChild<QPushButton*>("cmdClose")) close->click();
       }
     });
     yes_to_questions.start();
