@@ -16,6 +16,8 @@ std::string FileErrorDescription(int number) {
       return "File already exists";
     case vb_error::kDiskFull:
       return "Disk full";
+    case vb_error::kInputPastEndOfFile:
+      return "Input past end of file";
     case vb_error::kTooManyFiles:
       return "Too many files";
     case vb_error::kDeviceUnavailable:

@@ -47,6 +47,7 @@ class FileResult {
 // Numbers used here besides those of base/vb_error.h.
 namespace vb_error {
 inline constexpr int kDeviceIoError = 57;
+inline constexpr int kInputPastEndOfFile = 62;
 inline constexpr int kTooManyFiles = 67;
 inline constexpr int kRenameAcrossDrives = 74;
 }  // namespace vb_error

@@ -33,6 +33,8 @@ enum class Topic {
   kRunUndoBatch,           // "Do you really want to execute the undo-batch?"
   kDeleteLogFile,          // "Do you really want to delete the log file?"
   kVisitDownloadPage,      // "Do you want to visit the download page?"
+  kConfirmSecureDelete,    // "Are you sure you want to secure delete the selected files? ..."
+  kRemoveWriteProtection,  // "The file is write-protected. Do you want to delete it anyway?"
   kOther,                  // anything else
 };
 

@@ -106,6 +106,12 @@ constexpr MessageEntry kEntries[] = {
     {0, "split.pieces_exist", "The file(s) for splitting already exists, process cancelled! ",
      "Die Datei(en) zum Teilen existieren bereits, Vorgang abgebrochen! "},
     {0, "split.cannot_split", "Cannot split file:", "Datei kann nicht geteilt werden:"},
+    // Our words around the split: the log lines and what the dialogue adds.
+    {0, "split.not_split", "Not split (no larger than one piece), kept:",
+     "Nicht geteilt (nicht größer als ein Teil), behalten:"},
+    {0, "split.pieces_written", "%1 piece(s)", "%1 Teil(e)"},
+    {0, "split.cancelled_in_file", "Cancelled; the pieces written so far are kept, and the source:",
+     "Abgebrochen; die bisher geschriebenen Teile bleiben, ebenso die Quelle:"},
 
     // Merge.
     {0, "merge.title", "Merge file(s)", "Datei(en) zusammenfügen"},
@@ -115,6 +121,10 @@ constexpr MessageEntry kEntries[] = {
      "Sie müssen eine Zieldatei auswählen, bevor Sie fortfahren."},
     {0, "merge.target_exists", "The file for joining exists already, process was cancelled!",
      "Die Datei zum Zusammenfügen existiert bereits, der Vorgang wurde abgebrochen!"},
+    // Our addition: a merge into one of its own sources is refused.
+    {0, "merge.target_is_source",
+     "The destination file is one of the files to merge. Choose another destination file.",
+     "Die Zieldatei ist eine der zusammenzufügenden Dateien. Wählen Sie eine andere Zieldatei."},
     // Kept: the merge shows the split tool's words; this text is never shown.
     {0, "merge.cannot_merge", "Cannot merge file:", "Datei kann nicht zusammengefügt werden:"},
 
@@ -137,6 +147,24 @@ constexpr MessageEntry kEntries[] = {
     {0, "shredder.write_protected_title", "Remove write-protection?", "Schreibschutz entfernen?"},
     {0, "shredder.loading_file", "Loading file ...", "Lade Datei ..."},
     {0, "shredder.overwritten", "[Overwritten:", "[Überschrieben:"},
+    // Our words around the secure delete.
+    {0, "shredder.what_overwriting_cannot_do",
+     "Overwriting reaches the disk blocks only where the file system writes in place (ext4, XFS). "
+     "On SSDs, USB sticks and SD cards the controller may keep old blocks, and copy-on-write or "
+     "journalling file systems (btrfs, ZFS, ext4 with data journalling) and snapshots may keep "
+     "older copies: there a deletion cannot be promised to be unrecoverable.",
+     "Das Überschreiben erreicht die Blöcke nur, wo das Dateisystem an Ort und Stelle schreibt "
+     "(ext4, XFS). Auf SSDs, USB-Sticks und SD-Karten kann der Controller alte Blöcke behalten, "
+     "und Copy-on-Write- oder Journaling-Dateisysteme (btrfs, ZFS, ext4 mit Daten-Journal) sowie "
+     "Snapshots können ältere Kopien behalten: Dort kann nicht zugesichert werden, dass die "
+     "Löschung unwiederbringlich ist."},
+    {0, "shredder.symbolic_link",
+     "A symbolic link is not followed. To shred the file it points to, select that file itself.",
+     "Einer symbolischen Verknüpfung wird nicht gefolgt. Um die Datei zu schreddern, auf die sie "
+     "zeigt, wählen Sie diese Datei selbst aus."},
+    {0, "shredder.in_use", "The file is open in another program and was not touched.",
+     "Die Datei ist in einem anderen Programm geöffnet und wurde nicht angetastet."},
+    {0, "shredder.renamed_to", "renamed for overwriting to", "zum Überschreiben umbenannt in"},
 
     // Checksums.
     {0, "checksum.action_in_progress", "Action in progress, please wait ...",

@@ -32,7 +32,7 @@ ToolJob::~ToolJob() {
 
 std::string ToolJob::Text(std::string_view key) const { return std::string(env_.messages.Text(key)); }
 
-bool ToolJob::BeginFile(std::size_t index) {
+bool ToolJob::BeginFile(std::size_t index, std::string_view verb) {
   if (index % 5 == 4) env_.interaction.Yield();
   if (env_.interaction.PollCancel()) env_.app.CancelRun = true;
   if (env_.app.CancelRun) {
@@ -45,9 +45,16 @@ bool ToolJob::BeginFile(std::size_t index) {
   if (number.size() < total.size()) number.insert(0, total.size() - number.size(), '0');
   const std::size_t row = rows_[index];
   env_.interaction.SetCaption(Text("run.caption_prefix") + "[" + number + "/" + total + "] " +
-                              Text("tools.processing") + env_.list.Text(row, file_column::kName) +
+                              (verb.empty() ? Text("tools.processing") : std::string(verb)) +
+                              env_.list.Text(row, file_column::kName) +
                               "  " + Text("run.caption_cancel_hint"));
   return true;
+}
+
+bool ToolJob::CancelAsked() {
+  if (env_.interaction.PollCancel()) env_.app.CancelRun = true;
+  if (env_.app.CancelRun) result_.cancelled = true;
+  return result_.cancelled;
 }
 
 void ToolJob::EndFile(std::size_t index) {

@@ -47,7 +47,11 @@ class ToolJob {
 
   // Before the file at `index` of rows(): false when Esc or Ctrl-C asked to
   // stop (the job is then cancelled); otherwise the caption names the file.
-  bool BeginFile(std::size_t index);
+  // `verb` stands before the name in the caption; empty: "Processing:".
+  bool BeginFile(std::size_t index, std::string_view verb = {});
+  // Esc or Ctrl-C asked for inside a file (between its parts): true marks
+  // the job cancelled.
+  bool CancelAsked();
   // After the file: the progress bar moves on.
   void EndFile(std::size_t index);
 
