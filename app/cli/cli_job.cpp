@@ -12,9 +12,10 @@
 namespace tarnwick::cli {
 namespace {
 
-CliOptions AnswersOf(bool assume_yes) {
+CliOptions AnswersOf(bool assume_yes, bool ask_on_terminal) {
   CliOptions options;
   options.assume_yes = assume_yes;
+  options.interactive = ask_on_terminal;
   return options;
 }
 
@@ -24,9 +25,9 @@ void CliJob::FillLog::WriteLogFileTool(std::string_view subject, std::string_vie
   err_ << kProgramName << ": " << subject << ": " << text << '\n';
 }
 
-CliJob::CliJob(CliIo& io, bool assume_yes)
+CliJob::CliJob(CliIo& io, bool assume_yes, bool ask_on_terminal)
     : options(OptionStore::ForCurrentUser()),
-      ui(AnswersOf(assume_yes)),
+      ui(AnswersOf(assume_yes, ask_on_terminal)),
       messages(MessageTable::Get(SystemLanguage())),
       io_(io),
       fill_log_(io.err),
@@ -99,6 +100,12 @@ void PrintCounts(CliIo& io, std::int64_t done, std::string_view done_word, std::
                  std::int64_t failed, bool cancelled) {
   io.err << kProgramName << ": " << done << " " << done_word << ", " << skipped << " skipped, "
          << failed << " failed" << (cancelled ? ", cancelled" : "") << '\n';
+}
+
+int EndToolJob(CliIo& io, const ToolJobResult& result, std::string_view done_word) {
+  for (const std::string& failure : result.failures) io.err << kProgramName << ": " << failure << '\n';
+  PrintCounts(io, result.done, done_word, result.skipped, result.failed, result.cancelled);
+  return result.failed > 0 || result.cancelled ? kExitFailure : kExitOk;
 }
 
 }  // namespace tarnwick::cli

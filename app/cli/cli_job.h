@@ -9,6 +9,7 @@
 #include "cli_command.h"
 #include "core/rename_settings.h"
 #include "core/start_rename.h"
+#include "tools/tool_job.h"
 #include "filelist/file_list.h"
 #include "filelist/list_loader.h"
 #include "filelist/media_column_source.h"
@@ -39,7 +40,9 @@ struct FileArgs {
 // command line's answers to questions, and the list of the files named.
 class CliJob {
  public:
-  CliJob(CliIo& io, bool assume_yes);
+  // `ask_on_terminal`: questions are put to the user when standard input
+  // and standard error are a terminal (else each gets its default answer).
+  CliJob(CliIo& io, bool assume_yes, bool ask_on_terminal = false);
 
   // The rows of FILES, in the order named; every row selected. The message
   // of the files that are no files, or nothing.
@@ -83,5 +86,13 @@ class CliJob {
 // A run's or a tool's counts on standard error: "3 copied, 0 skipped, 1 failed".
 void PrintCounts(CliIo& io, std::int64_t done, std::string_view done_word, std::int64_t skipped,
                  std::int64_t failed, bool cancelled);
+
+// The end of a tool job on the command line: each failure named on standard
+// error, then the counts; the exit status (1 when a file failed or the job
+// was cancelled).
+int EndToolJob(CliIo& io, const ToolJobResult& result, std::string_view done_word);
+
+// Exit status of a command whose choices a check of its dialogue refused.
+inline constexpr int kExitRefused = 3;
 
 }  // namespace tarnwick::cli

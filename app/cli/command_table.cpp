@@ -22,6 +22,10 @@ extern const Command kPlaylistCommand;
 extern const Command kCopyCommand;
 extern const Command kMoveCommand;
 extern const Command kRenameFromTextCommand;
+extern const Command kSplitCommand;
+extern const Command kMergeCommand;
+extern const Command kShredCommand;
+extern const Command kChecksumCommand;
 
 std::span<const Command> AllCommands() {
   static const std::array kCommands = {
@@ -29,6 +33,7 @@ std::span<const Command> AllCommands() {
       kRunCommand,     kPreviewCommand, kUndoCommand,      kSettingsCommand,
       kTagsCommand,    kExifCommand,    kWmaCommand,       kReportCommand,
       kPlaylistCommand, kCopyCommand,     kMoveCommand,      kRenameFromTextCommand,
+      kSplitCommand,   kMergeCommand,   kShredCommand,     kChecksumCommand,
   };
   return kCommands;
 }

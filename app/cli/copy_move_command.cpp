@@ -143,12 +143,11 @@ int RunCopyOrMove(std::span<const std::string> raw, CliIo& io, bool move) {
     result = CopyMoveFiles(job.Env(), args.choices);
   }
   job.ui.HideProgress();
-  for (const std::string& failure : result.failures) io.err << kProgramName << ": " << failure << '\n';
   const std::string_view done_word =
       args.choices.batch_only ? "written to the script" : (move ? "moved" : "copied");
-  PrintCounts(io, result.done, done_word, result.skipped, result.failed, result.cancelled);
+  const int status = EndToolJob(io, result, done_word);
   if (args.choices.batch_only && result.failed == 0) io.out << args.choices.batch_path << '\n';
-  return result.failed > 0 || result.cancelled ? kExitFailure : kExitOk;
+  return status;
 }
 
 int RunCopy(std::span<const std::string> args, CliIo& io) { return RunCopyOrMove(args, io, false); }

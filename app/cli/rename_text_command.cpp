@@ -9,9 +9,6 @@
 namespace tarnwick::cli {
 namespace {
 
-// The validation or the count check refused the text file.
-constexpr int kExitRefused = 3;
-
 struct RenameTextArgs {
   std::string text_file;
   FileArgs files;

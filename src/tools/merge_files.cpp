@@ -89,6 +89,7 @@ ToolJobResult MergeFiles(const RenameRunEnv& env, const MergeChoices& choices) {
   ToolJob job(env);
   const std::string title = job.Text("merge.title");
   if (!TargetAllowed(job, choices)) {
+    job.Refused();
     job.Finish(false);
     return job.result();
   }

@@ -196,7 +196,11 @@ ToolJobResult SecureDeleteFiles(const RenameRunEnv& env, int passes, Random& ran
        FillMessage(messages.Text("shredder.confirm_text"), {std::to_string(count)}) + "\r\n\r\n" +
            std::string(messages.Text("shredder.what_overwriting_cannot_do")),
        Buttons::kYesNo, MessageIcon::kExclamation, Topic::kConfirmSecureDelete});
-  if (answer != Answer::kYes) return {};
+  if (answer != Answer::kYes) {
+    ToolJobResult not_confirmed;
+    not_confirmed.refused = true;
+    return not_confirmed;
+  }
   ToolJob job(env);
   Shredder shredder(job, passes, random, watch);
   for (std::size_t i = 0; i < job.total(); ++i) {

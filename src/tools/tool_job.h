@@ -19,6 +19,7 @@ struct ToolJobResult {
   std::int64_t failed = 0;
   std::int64_t skipped = 0;
   bool cancelled = false;  // Esc or Ctrl-C ended the job early
+  bool refused = false;    // a check before the first file stopped the job
   // One line per failed file: the path and what went wrong.
   std::vector<std::string> failures;
 };
@@ -64,6 +65,7 @@ class ToolJob {
   void Failed(const std::string& path, const std::string& what);
   void Done() { ++result_.done; }
   void Skipped() { ++result_.skipped; }
+  void Refused() { result_.refused = true; }
 
   // The end of the job; `refill`: the list is read again.
   void Finish(bool refill);
