@@ -13,6 +13,9 @@
 #include "options_dialog.h"
 #include "pattern_picker_dialog.h"
 #include "rename_text_dialog.h"
+#include "report_window.h"
+#include "split_merge_dialogs.h"
+#include "tools/checksum_report.h"
 #include "playlist_dialog.h"
 #include "run_dialogs.h"
 #include "save_settings_dialog.h"
@@ -118,6 +121,24 @@ std::unique_ptr<QDialog> MakeCopyMove(DialogShotContext& c) {
   return dialog;
 }
 
+std::unique_ptr<QDialog> MakeSplit(DialogShotContext& c) {
+  return std::make_unique<SplitDialog>(c.options, c.messages, c.window.interaction(), &c.window);
+}
+
+std::unique_ptr<QDialog> MakeMerge(DialogShotContext& c) {
+  const std::string first = FileNameOr(c, "holiday.mp4_00000.part");
+  return std::make_unique<MergeDialog>(FolderOf(c), first, c.messages, c.window.interaction(),
+                                       &c.window);
+}
+
+// The report of SHA256 digests of FILE's folder (the window's selection).
+std::unique_ptr<QDialog> MakeChecksumReport(DialogShotContext& c) {
+  c.window.SelectAll();
+  const ChecksumReport report = BuildChecksumReport(c.window.RunEnv(), DigestKind::kSha256);
+  return std::make_unique<ReportWindow>(Msg(c.messages, "report.sha256_title"), report.text,
+                                        c.options, c.messages, c.window.interaction(), &c.window);
+}
+
 // With FILE, the dialogue has loaded it as the text file of names.
 std::unique_ptr<QDialog> MakeRenameFromText(DialogShotContext& c) {
   // What the loading says (a refused file, a count that differs) is not
@@ -151,6 +172,9 @@ std::span<const DialogShot> DialogShots() {
       {"copy-move", "copying or moving the selected files", MakeCopyMove},
       {"rename-from-text", "renaming from a text file (FILE: the text file of names)",
        MakeRenameFromText},
+      {"split", "splitting the selected files", MakeSplit},
+      {"merge", "merging the selected files (FILE: the first of them)", MakeMerge},
+      {"checksum-report", "the SHA256 report of FILE's folder", MakeChecksumReport},
       {"playlist-editor", "the playlist editor (FILE: a playlist, or a file of a music folder)",
        MakePlaylistEditor},
   };

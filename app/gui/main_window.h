@@ -10,6 +10,7 @@
 
 #include "base/clock.h"
 #include "core/new_name_preview.h"
+#include "tools/checksum_report.h"
 #include "core/rename_settings.h"
 #include "core/sample.h"
 #include "core/start_rename.h"
@@ -98,6 +99,12 @@ class MainWindow : public QMainWindow, public ProgressView {
   // `mnuMoveCopyFiles` and `mnuRenameFromFile` on the selected rows.
   void CopyMoveFiles();
   void RenameFromTextFile();
+  // What a run or a tool job works with.
+  RenameRunEnv RunEnv();
+  void SplitSelectedFiles();
+  void MergeSelectedFiles();
+  void SecureDeleteSelectedFiles();
+  void ShowChecksums(DigestKind kind);
   // Takes the newest run of the undo batch back: what it would do first, in
   // the result list, then a question, then the moves, never overwriting.
   void UndoLastRun();
@@ -185,8 +192,6 @@ class MainWindow : public QMainWindow, public ProgressView {
   void BuildListMenu(QAction* refresh, QMenu* select);
   QWidget* BuildLowerPane();
   PipelineEnv SampleEnv();
-  // What a run or a tool job works with.
-  RenameRunEnv RunEnv();
   // The window after a run or a tool job: the list, its selection, the
   // sample and the new names shown anew.
   void AfterJob();

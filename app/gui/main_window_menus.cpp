@@ -89,6 +89,19 @@ void MainWindow::BuildMenus() {
   tools->addAction(Msg(messages_, "main.menu.rename_from_file"), this,
                    &MainWindow::RenameFromTextFile)
       ->setObjectName("mnuRenameFromFile");
+  tools->addAction(Msg(messages_, "main.menu.split_files"), this, &MainWindow::SplitSelectedFiles)
+      ->setObjectName("mnuSplitFiles");
+  tools->addAction(Msg(messages_, "main.menu.merge_files"), this, &MainWindow::MergeSelectedFiles)
+      ->setObjectName("mnuMergeFiles");
+  tools->addAction(Msg(messages_, "main.menu.secure_delete"), this,
+                   &MainWindow::SecureDeleteSelectedFiles)
+      ->setObjectName("mnuSecureDelete");
+  tools->addAction(Msg(messages_, "main.menu.md5_checksums"), this,
+                   [this] { ShowChecksums(DigestKind::kMd5); })
+      ->setObjectName("mnuGetMD5Checksums");
+  tools->addAction(Msg(messages_, "main.menu.sha256_checksums"), this,
+                   [this] { ShowChecksums(DigestKind::kSha256); })
+      ->setObjectName("mnuGetSHA256Checksums");
   tools->addSeparator();
   QAction* undo = tools->addAction(Msg(messages_, "main.menu.undo_last_run"),
                                    QKeySequence::Undo, this, &MainWindow::UndoLastRun);

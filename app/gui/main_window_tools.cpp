@@ -5,12 +5,15 @@
 #include "main_window.h"
 #include "qt_text.h"
 #include "rename_text_dialog.h"
+#include "report_window.h"
+#include "split_merge_dialogs.h"
 #include "base/path_text.h"
 #include "core/undo_runner.h"
 #include "persist/log_options.h"
 #include "platform/files.h"
 #include "tools/copy_move.h"
 #include "tools/rename_from_text.h"
+#include "tools/secure_delete.h"
 
 namespace tarnwick::gui {
 namespace {
@@ -60,6 +63,54 @@ void MainWindow::RenameFromTextFile() {
   tarnwick::RenameFromTextFile(RunEnv(), file);
   starting_run_ = false;
   AfterJob();
+}
+
+void MainWindow::SplitSelectedFiles() {
+  ViewSelectionToList();
+  if (list_.SelectedCount() == 0) return;
+  SplitDialog dialog(options_, messages_, *interaction_, this);
+  if (dialog.exec() != QDialog::Accepted) return;
+  change_timer_.stop();
+  new_name_timer_.stop();
+  const ToolJobResult result = SplitFiles(RunEnv(), dialog.choices());
+  AfterJob();
+  ShowToolFailures(result);
+}
+
+void MainWindow::MergeSelectedFiles() {
+  ViewSelectionToList();
+  const std::vector<std::size_t> rows = list_.SelectedRows();
+  if (rows.empty()) return;
+  MergeDialog dialog(std::string(list_.Folder(rows.front())),
+                     list_.Text(rows.front(), file_column::kName), messages_, *interaction_, this);
+  if (dialog.exec() != QDialog::Accepted) return;
+  change_timer_.stop();
+  new_name_timer_.stop();
+  MergeFiles(RunEnv(), dialog.choices());
+  AfterJob();
+}
+
+void MainWindow::SecureDeleteSelectedFiles() {
+  ViewSelectionToList();
+  if (list_.SelectedCount() == 0) return;
+  change_timer_.stop();
+  new_name_timer_.stop();
+  SystemRandom random;
+  SecureDeleteFiles(RunEnv(), ShredPasses(options_), random);
+  AfterJob();
+}
+
+void MainWindow::ShowChecksums(DigestKind kind) {
+  ViewSelectionToList();
+  if (list_.SelectedCount() == 0) return;
+  change_timer_.stop();
+  new_name_timer_.stop();
+  const ChecksumReport report = BuildChecksumReport(RunEnv(), kind);
+  AfterJob();
+  ReportWindow window(Msg(messages_, kind == DigestKind::kMd5 ? "report.md5_title"
+                                                              : "report.sha256_title"),
+                      report.text, options_, messages_, *interaction_, this);
+  window.exec();
 }
 
 std::string MainWindow::CurrentUndoBatch() const {

@@ -62,6 +62,15 @@ constexpr MessageEntry kEntries[] = {
     {0, "export.delimiter_other", "Other:", "Anderes:"},
     {0, "export.parse_invalid_chars", "Convert invalid characters", "Ungültige Zeichen umwandeln"},
 
+    // The report window's buttons; our words.
+    {0, "report.save", "Save ...", "Speichern ..."},
+    {0, "report.close", "Close", "Schließen"},
+    {0, "report.save_title", "Save report", "Bericht speichern"},
+    {0, "report.filter_text", "Text files", "Textdateien"},
+    {0, "report.filter_all", "All files", "Alle Dateien"},
+    {0, "report.md5_title", "MD5 checksums", "MD5-Prüfsummen"},
+    {0, "report.sha256_title", "SHA256 checksums", "SHA256-Prüfsummen"},
+
     // The text export and its report window.
     {0, "export.text_window_title", "Create textfile", "Textdatei erstellen"},
     {0, "export.processing_subdir", "Processing subdir", "Bearbeite Unterverzeichnis"},

@@ -6,12 +6,15 @@
 #include <QCheckBox>
 #include <QDateEdit>
 #include <QLabel>
+#include <QComboBox>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSpinBox>
 #include <QTest>
 #include <QTimeEdit>
+#include <QTableView>
 #include <QTimer>
 #include <filesystem>
 
@@ -20,6 +23,8 @@
 #include "main_window.h"
 #include "persist/option_store.h"
 #include "rename_text_dialog.h"
+#include "report_window.h"
+#include "split_merge_dialogs.h"
 #include "shell/scripted_interaction.h"
 #include "support/temp_dir.h"
 
@@ -29,7 +34,10 @@ namespace {
 namespace fs = std::filesystem;
 using gui::CopyMoveDialog;
 using gui::MainWindow;
+using gui::MergeDialog;
 using gui::RenameTextDialog;
+using gui::ReportWindow;
+using gui::SplitDialog;
 
 class ToolDialogsTest : public GuiTest {
  protected:
@@ -186,6 +194,106 @@ TEST_F(ToolDialogsTest, TheToolsMenuCopiesMovesAndRenamesTheSelectedFiles) {
   window->findChild<QAction*>("mnuMoveCopyFiles")->trigger();
   EXPECT_EQ(window->list().size(), 0u);  // moved away: the list is read again
   EXPECT_TRUE(fs::exists(dir.path() / "target/Beta.jpg"));
+}
+
+TEST_F(ToolDialogsTest, TheSplitDialogueRefusesABadSizeAndKeepsAGoodOne) {
+  SplitDialog dialog(options, messages, interaction);
+  Child<QLineEdit>(&dialog, "txtUnits")->setText("0,5");
+  interaction.SetDefault(QuestionKind::kMessageBox, Answer::kOk);
+  EXPECT_FALSE(dialog.Start());
+  EXPECT_EQ(interaction.asked().back().text, "You must enter a size => 1!");
+  Child<QComboBox>(&dialog, "cboUnits")->setCurrentIndex(3);
+  Child<QLineEdit>(&dialog, "txtUnits")->setText("1");
+  EXPECT_FALSE(dialog.Start());
+  EXPECT_EQ(interaction.asked().back().text, "You must enter a size greater 1 to proceed!");
+  Child<QLineEdit>(&dialog, "txtNewFile")->setText(QString::fromStdString(Target() + "/missing"));
+  Child<QLineEdit>(&dialog, "txtUnits")->setText("2,5");
+  EXPECT_FALSE(dialog.Start());
+  Child<QLineEdit>(&dialog, "txtNewFile")->setText(QString::fromStdString(Target()));
+  Child<QLineEdit>(&dialog, "txtExtension")->setText("piece");
+  Child<QCheckBox>(&dialog, "chkBatch")->setChecked(true);
+  EXPECT_TRUE(dialog.Start());
+  const SplitChoices choices = dialog.choices();
+  EXPECT_EQ(choices.amount, 2.5);
+  EXPECT_EQ(choices.unit, SplitUnit::kCount);
+  EXPECT_EQ(choices.destination, Target());
+  EXPECT_TRUE(choices.batch);
+
+  // The next split starts from these choices.
+  SplitDialog again(options, messages, interaction);
+  EXPECT_EQ(Child<QLineEdit>(&again, "txtUnits")->text(), "2,5");
+  EXPECT_EQ(Child<QComboBox>(&again, "cboUnits")->currentIndex(), 3);
+  EXPECT_EQ(Child<QLineEdit>(&again, "txtExtension")->text(), "piece");
+}
+
+TEST_F(ToolDialogsTest, TheMergeDialogueProposesTheNameThePiecesCameFrom) {
+  EXPECT_EQ(gui::MergeTargetFor("movie.mkv_00000.part"), "movie.mkv");
+  EXPECT_EQ(gui::MergeTargetFor("movie.mkv_000123.001"), "movie.mkv");
+  EXPECT_EQ(gui::MergeTargetFor("holiday.jpg"), "");
+  EXPECT_EQ(gui::MergeTargetFor("_00000.part"), "");
+
+  MergeDialog dialog("/data", "movie.mkv_00000.part", messages, interaction);
+  EXPECT_EQ(dialog.target_field()->text(), "/data/movie.mkv");
+  EXPECT_FALSE(Child<QLineEdit>(&dialog, "txtExtension")->isEnabled());
+  Child<QCheckBox>(&dialog, "chkExtension")->setChecked(true);
+  EXPECT_TRUE(Child<QLineEdit>(&dialog, "txtExtension")->isEnabled());
+  dialog.target_field()->setText("joined.mkv");  // relative: in the folder
+  EXPECT_EQ(dialog.choices().target, "/data/joined.mkv");
+  dialog.target_field()->clear();
+  interaction.SetDefault(QuestionKind::kMessageBox, Answer::kOk);
+  EXPECT_FALSE(dialog.Start());
+  EXPECT_EQ(interaction.asked().back().title, "Merge file(s)");
+}
+
+TEST_F(ToolDialogsTest, TheToolsMenuSplitsMergesChecksumsAndShreds) {
+  dir.WriteFile("files/a.jpg", std::string(2600, 'a'));
+  std::unique_ptr<MainWindow> window = Window();
+  // Selects in the view, as a user does, the rows whose names `wanted` takes.
+  const auto select = [&window](const std::function<bool(const std::string&)>& wanted) {
+    QItemSelection selection;
+    for (std::size_t row = 0; row < window->list().size(); ++row) {
+      if (!wanted(window->list().Text(row, file_column::kName))) continue;
+      const auto index = window->file_view()->model()->index(static_cast<int>(row), 0);
+      selection.select(index, index);
+    }
+    window->file_view()->selectionModel()->select(
+        selection, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  };
+  select([](const std::string& name) { return name == "a.jpg"; });
+  WhenOpen<SplitDialog>([](SplitDialog* dialog) {
+    Child<QLineEdit>(dialog, "txtUnits")->setText("1");
+    Child<QComboBox>(dialog, "cboUnits")->setCurrentIndex(1);  // kilobytes: 1024
+    Child<QPushButton>(dialog, "cmdStart")->click();
+  });
+  window->findChild<QAction*>("mnuSplitFiles")->trigger();
+  EXPECT_EQ(fs::file_size(dir.path() / "files/a.jpg_00000.part"), 1024u);
+  EXPECT_EQ(fs::file_size(dir.path() / "files/a.jpg_00002.part"), 2600u - 2048u);
+  ASSERT_EQ(window->list().size(), 6u);  // the list read again
+
+  select([](const std::string& name) { return name.ends_with(".part"); });
+  WhenOpen<MergeDialog>([](MergeDialog* dialog) {
+    dialog->target_field()->setText("back.jpg");
+    Child<QPushButton>(dialog, "cmdStart")->click();
+  });
+  window->findChild<QAction*>("mnuMergeFiles")->trigger();
+  EXPECT_EQ(fs::file_size(dir.path() / "files/back.jpg"), 2600u);
+
+  window->SelectAll();
+  std::string report;
+  WhenOpen<ReportWindow>([&report](ReportWindow* shown) {
+    report = shown->text_field()->toPlainText().toStdString();
+    Child<QPushButton>(shown, "cmdClose")->click();
+  });
+  window->findChild<QAction*>("mnuGetMD5Checksums")->trigger();
+  EXPECT_NE(report.find("/files/c.txt; MD5: d394994e9541622e8018542d886abaa8"), std::string::npos)
+      << report;
+
+  window->SelectAll();
+  interaction.Then(Answer::kYes);
+  options.SaveOption("FSOverwrite", "Options", "1");
+  window->findChild<QAction*>("mnuSecureDelete")->trigger();
+  EXPECT_EQ(window->list().size(), 0u);
+  EXPECT_TRUE(fs::is_empty(dir.path() / "files"));
 }
 
 }  // namespace
