@@ -14,46 +14,9 @@
 # so its figure is given both plain and followed by `sync`.
 # --quick: 200 files, a 256 MB file and 5,000 small files.
 set -euo pipefail
-root="$(cd "$(dirname "$0")/.." && pwd)"
-build="$root/build/release"
-if [[ ! -x "$build/app/cli/tarnwick-cli" ]]; then
-  cmake --preset release -DTW_BUILD_BENCH=ON -S "$root" >/dev/null
-  cmake --build --preset release --target tarnwick-cli >/dev/null
-fi
-cli="$build/app/cli/tarnwick-cli"
+source "$(dirname "$0")/bench-common.sh"
 files=1000 big_mb=2048 small=20000
 if [[ "${1:-}" == "--quick" ]]; then files=200 big_mb=256 small=5000; fi
-
-work="$(mktemp -d "${TMPDIR:-/tmp}/tarnwick-copy-bench-XXXXXX")"
-trap 'rm -rf "$work"' EXIT
-export XDG_CONFIG_HOME="$work/config" XDG_DATA_HOME="$work/data"
-"$cli" options set Options WriteLogFile 0 >/dev/null
-"$cli" options set Options WriteUndoList 0 >/dev/null
-
-seconds() {
-  local start end
-  start=$(date +%s.%N)
-  "$@" >/dev/null 2>&1
-  end=$(date +%s.%N)
-  awk -v a="$end" -v b="$start" 'BEGIN { printf "%.3f", a - b }'
-}
-
-# best_of_three PREPARE COMMAND...: PREPARE runs before each try, untimed.
-best_of_three() {
-  local prepare="$1" best="" took
-  shift
-  for _ in 1 2 3; do
-    "$prepare"
-    sync
-    took=$(seconds "$@")
-    if [[ -z "$best" ]] || awk -v a="$took" -v b="$best" 'BEGIN { exit !(a < b) }'; then
-      best="$took"
-    fi
-  done
-  echo "$best"
-}
-
-ratio() { awk -v a="$1" -v b="$2" 'BEGIN { printf "%.2f", a / b }'; }
 
 fresh_target() { rm -rf "$work/t"; mkdir "$work/t"; }
 
