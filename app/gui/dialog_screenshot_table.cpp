@@ -13,6 +13,7 @@
 #include "options_dialog.h"
 #include "pattern_picker_dialog.h"
 #include "rename_text_dialog.h"
+#include "log_viewer.h"
 #include "report_window.h"
 #include "split_merge_dialogs.h"
 #include "tools/checksum_report.h"
@@ -121,6 +122,13 @@ std::unique_ptr<QDialog> MakeCopyMove(DialogShotContext& c) {
   return dialog;
 }
 
+// FILE as the log, or the window's own log.
+std::unique_ptr<QDialog> MakeLogViewer(DialogShotContext& c) {
+  const std::string path =
+      c.file.empty() ? RunLog(c.window.env()).LogFilePath() : std::filesystem::absolute(c.file).string();
+  return std::make_unique<LogViewer>(path, c.messages, &c.window);
+}
+
 std::unique_ptr<QDialog> MakeSplit(DialogShotContext& c) {
   return std::make_unique<SplitDialog>(c.options, c.messages, c.window.interaction(), &c.window);
 }
@@ -172,6 +180,7 @@ std::span<const DialogShot> DialogShots() {
       {"copy-move", "copying or moving the selected files", MakeCopyMove},
       {"rename-from-text", "renaming from a text file (FILE: the text file of names)",
        MakeRenameFromText},
+      {"log-viewer", "the log in Tarnwick's own viewer (FILE: a log file)", MakeLogViewer},
       {"split", "splitting the selected files", MakeSplit},
       {"merge", "merging the selected files (FILE: the first of them)", MakeMerge},
       {"checksum-report", "the SHA256 report of FILE's folder", MakeChecksumReport},

@@ -505,6 +505,10 @@ void MainWindow::SortBy(int column, bool descending) {
 
 void MainWindow::OpenPath(const std::string& path) {
   if (path.empty()) return;
+  if (desktop_opener_) {
+    desktop_opener_(path);
+    return;
+  }
   QDesktopServices::openUrl(QUrl::fromLocalFile(Q(path)));
 }
 
@@ -667,7 +671,7 @@ void MainWindow::ShowRunSummary(const RenameRunResult& result) {
   if (!result.ran || result.mode == kModeTest) return;
   const RunSummaryChoice choice = interaction_->ShowRunSummary(
       {result.mode, result.done, result.skipped, result.failed, result.cancelled});
-  if (choice == RunSummaryChoice::kShowLog) OpenPath(RunLog(env_).LogFilePath());
+  if (choice == RunSummaryChoice::kShowLog) ShowLogFile();
   if (choice == RunSummaryChoice::kUndo) UndoLastRun();
 }
 

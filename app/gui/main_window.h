@@ -2,7 +2,9 @@
 
 #include <QElapsedTimer>
 #include <QMainWindow>
+#include <QPointer>
 #include <QTimer>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <utility>
@@ -48,6 +50,7 @@ class QTreeView;
 namespace tarnwick::gui {
 
 class FileListModel;
+class LogViewer;
 class PlaylistDialog;
 class RenameControls;
 class WindowHost;
@@ -101,6 +104,16 @@ class MainWindow : public QMainWindow, public ProgressView {
   void RenameFromTextFile();
   // What a run or a tool job works with.
   RenameRunEnv RunEnv();
+  // F7: the log through the desktop's application for text files, or in a
+  // viewer of our own when none answers. F8: the undo folder, or where it
+  // is when no file manager answers.
+  void ShowLogFile();
+  void ShowUndoFolder();
+  LogViewer* ShowLogInViewer();
+  // What opens a file or folder on the desktop (tests put in their own).
+  void SetDesktopOpener(std::function<bool(const std::string&)> opener) {
+    desktop_opener_ = std::move(opener);
+  }
   void SplitSelectedFiles();
   void MergeSelectedFiles();
   void SecureDeleteSelectedFiles();
@@ -209,6 +222,8 @@ class MainWindow : public QMainWindow, public ProgressView {
   void ShowActionOrder();
   void OpenPatternPicker(QLineEdit* field);
   void OpenPath(const std::string& path);
+  std::function<bool(const std::string&)> desktop_opener_;
+  QPointer<LogViewer> log_viewer_;
   void FolderChosen(const QModelIndex& index);
   // `ChangeDir`: the list of a newly chosen folder, with the filter back to
   // "*.*" and the change in the log.

@@ -112,9 +112,11 @@ void MainWindow::BuildMenus() {
                      FileExists(CurrentUndoBatch()));
   });
   tools->addAction(Msg(messages_, "main.menu.show_log"), QKeySequence(Qt::Key_F7), this,
-                   [this] { OpenPath(RunLog(env_).LogFilePath()); });
+                   &MainWindow::ShowLogFile)
+      ->setObjectName("mnuShowLog");
   tools->addAction(Msg(messages_, "main.menu.undo_folder"), QKeySequence(Qt::Key_F8), this,
-                   [this] { OpenPath(UndoFolderPath(options_, log_state_)); });
+                   &MainWindow::ShowUndoFolder)
+      ->setObjectName("mnuUndoFolder");
 
   QMenu* help = menuBar()->addMenu(Msg(messages_, "main.menu.help"));
   help->addAction(Msg(messages_, "main.menu.placeholder_list"), this, [this] {

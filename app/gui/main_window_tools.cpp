@@ -1,7 +1,11 @@
 // The tools of the Tools menu that work on the selected rows.
 #include <QFileDialog>
 
+#include <QDesktopServices>
+#include <QUrl>
+
 #include "copy_move_dialog.h"
+#include "log_viewer.h"
 #include "main_window.h"
 #include "qt_text.h"
 #include "rename_text_dialog.h"
@@ -111,6 +115,45 @@ void MainWindow::ShowChecksums(DigestKind kind) {
                                                               : "report.sha256_title"),
                       report.text, options_, messages_, *interaction_, this);
   window.exec();
+}
+
+namespace {
+
+bool OpenOnDesktop(const std::function<bool(const std::string&)>& opener, const std::string& path) {
+  if (opener) return opener(path);
+  return QDesktopServices::openUrl(QUrl::fromLocalFile(Q(path)));
+}
+
+}  // namespace
+
+void MainWindow::ShowLogFile() {
+  const std::string path = RunLog(env_).LogFilePath();
+  if (FileExists(path) && OpenOnDesktop(desktop_opener_, path)) return;
+  ShowLogInViewer();
+}
+
+LogViewer* MainWindow::ShowLogInViewer() {
+  if (log_viewer_ == nullptr) {
+    log_viewer_ = new LogViewer(RunLog(env_).LogFilePath(), messages_, this);
+    log_viewer_->setAttribute(Qt::WA_DeleteOnClose);
+  }
+  log_viewer_->show();
+  log_viewer_->raise();
+  return log_viewer_;
+}
+
+void MainWindow::ShowUndoFolder() {
+  const std::string folder = UndoFolderPath(options_, log_state_);
+  const std::string title(messages_.Text("undo_folder.title"));
+  if (!FolderExists(folder)) {
+    interaction_->ShowMessage({title, std::string(messages_.Text("undo_folder.missing")) + "\r\n" + folder,
+                               Buttons::kOk, MessageIcon::kInformation, Topic::kNotice});
+    return;
+  }
+  if (OpenOnDesktop(desktop_opener_, folder)) return;
+  interaction_->ShowMessage({title, std::string(messages_.Text("undo_folder.no_file_manager")) +
+                                        "\r\n" + folder,
+                             Buttons::kOk, MessageIcon::kInformation, Topic::kNotice});
 }
 
 std::string MainWindow::CurrentUndoBatch() const {

@@ -137,6 +137,20 @@ constexpr MessageEntry kEntries[] = {
     {0, "main.status.collision_one", "1 new name collides", "1 neuer Name kollidiert"},
     // Undo of the last run from the window; the words are ours.
     {0, "main.menu.undo_last_run", "Undo last run", "Letzten Lauf rückgängig machen"},
+    // The log viewer of our own and the undo folder, where no desktop
+    // application opens them.
+    {0, "log_viewer.title", "Log", "Log"},
+    {0, "log_viewer.search", "Search:", "Suchen:"},
+    {0, "log_viewer.find_next", "Find next", "Weitersuchen"},
+    {0, "log_viewer.no_log", "There is no log file yet:", "Es gibt noch keine Logdatei:"},
+    {0, "log_viewer.only_the_end", "The log is large: only its last 16 MB are shown.",
+     "Das Log ist groß: Nur die letzten 16 MB werden angezeigt."},
+    {0, "undo_folder.title", "Undo folder", "Undo-Ordner"},
+    {0, "undo_folder.no_file_manager",
+     "No file manager opened the undo folder. The undo batches are in:",
+     "Kein Dateimanager hat den Undo-Ordner geöffnet. Die Undo-Batches liegen in:"},
+    {0, "undo_folder.missing", "The undo folder does not exist yet:",
+     "Der Undo-Ordner existiert noch nicht:"},
     {0, "run.summary_title_done", "Run finished", "Lauf beendet"},
     {0, "run.summary_title_cancelled", "Run cancelled", "Lauf abgebrochen"},
     {0, "run.summary_renamed", "%1 renamed, %2 skipped, %3 failed",

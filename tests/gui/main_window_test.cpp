@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
 #include <QTableView>
@@ -30,6 +31,7 @@
 #include "desktop_integration.h"
 #include "desktop_start.h"
 #include "file_list_model.h"
+#include "log_viewer.h"
 #include "gui/gui_test_support.h"
 #include "persist/option_store.h"
 #include "rename_controls.h"
@@ -186,6 +188,52 @@ TEST_F(MainWindowTest, TheSummaryAfterARunCountsItAndItsUndoTakesTheRunBack) {
   interaction.Then(StartRenamingChoice::kCancel);
   window->StartRenaming();
   EXPECT_EQ(interaction.run_summaries().size(), 1u);
+}
+
+TEST_F(MainWindowTest, WithoutADesktopApplicationTheLogOpensInOurViewerAndFollowsIt) {
+  const std::string log = (config.path() / "Tarnwick.log").string();
+  config.WriteFile("Tarnwick.log", "first line\r\nsecond line\r\n");
+  std::vector<std::string> opened;
+  window->SetDesktopOpener([&opened](const std::string& path) {
+    opened.push_back(path);
+    return false;  // no application answers
+  });
+  window->findChild<QAction*>("mnuShowLog")->trigger();
+  ASSERT_EQ(opened, std::vector<std::string>{log});
+  auto* viewer = window->findChild<gui::LogViewer*>("frmLogViewer");
+  ASSERT_NE(viewer, nullptr);
+  EXPECT_EQ(viewer->text_field()->toPlainText(), "first line\nsecond line");
+  EXPECT_TRUE(viewer->text_field()->isReadOnly());
+
+  // Lines a run adds appear; a half-written line waits for its end.
+  std::ofstream(log, std::ios::app) << "third line\r\nfourth";
+  viewer->Follow();
+  EXPECT_EQ(viewer->text_field()->toPlainText(), "first line\nsecond line\nthird line");
+  viewer->search_field()->setText("SECOND");
+  EXPECT_TRUE(viewer->FindNext());
+  EXPECT_EQ(viewer->text_field()->textCursor().selectedText(), "second");
+  viewer->search_field()->setText("nowhere");
+  EXPECT_FALSE(viewer->FindNext());
+
+  // A log replaced by a new run is read from its start.
+  std::filesystem::remove(log);
+  config.WriteFile("Tarnwick.log", "new run\r\n");
+  viewer->Follow();
+  EXPECT_EQ(viewer->text_field()->toPlainText(), "new run");
+
+  // F8 without a file manager says where the undo folder is.
+  interaction.SetDefault(QuestionKind::kMessageBox, Answer::kOk);
+  window->findChild<QAction*>("mnuUndoFolder")->trigger();
+  EXPECT_NE(interaction.asked().back().text.find(config.str()), std::string::npos)
+      << interaction.asked().back().text;
+  EXPECT_NE(interaction.asked().back().text.find("No file manager"), std::string::npos);
+
+  // With an application that answers, no viewer of ours is needed.
+  viewer->close();
+  window->SetDesktopOpener([](const std::string&) { return true; });
+  window->findChild<QAction*>("mnuShowLog")->trigger();
+  QApplication::processEvents();
+  EXPECT_EQ(window->findChild<gui::LogViewer*>("frmLogViewer"), nullptr);
 }
 
 TEST_F(MainWindowTest, NewNamesThatCollideAreCountedAndTheTestModeTouchesNothing) {
