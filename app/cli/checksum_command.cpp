@@ -57,14 +57,13 @@ std::optional<std::string> ParseChecksum(std::span<const std::string> args, Chec
 
 int WriteDigests(const ChecksumArgs& args, CliIo& io) {
   CliJob job(io, false);
-  if (const auto listed = job.List(args.files)) return UsageError(io, "checksum", *listed);
-  if (job.list.SelectedCount() == 0) return Failure(io, "no file to read");
   ChecksumReport report;
-  {
-    ScopedInterruptCancel interrupt(job.app);
-    report = BuildChecksumReport(job.Env(), args.kind);
-  }
-  job.ui.HideProgress();
+  const auto tool = [&](const RenameRunEnv& env) {
+    report = BuildChecksumReport(env, args.kind);
+    return report.result;
+  };
+  ToolJobResult result;
+  if (auto status = RunOnFiles(job, io, "checksum", args.files, tool, result)) return *status;
   for (const ChecksumLine& line : report.lines) {
     if (!line.status.ok()) continue;
     if (args.coreutils) {

@@ -102,6 +102,20 @@ void PrintCounts(CliIo& io, std::int64_t done, std::string_view done_word, std::
          << failed << " failed" << (cancelled ? ", cancelled" : "") << '\n';
 }
 
+std::optional<int> RunOnFiles(CliJob& job, CliIo& io, std::string_view command,
+                              const FileArgs& files,
+                              const std::function<ToolJobResult(const RenameRunEnv&)>& tool,
+                              ToolJobResult& result) {
+  if (const auto listed = job.List(files)) return UsageError(io, command, *listed);
+  if (job.list.SelectedCount() == 0) return Failure(io, "no file to work on");
+  {
+    ScopedInterruptCancel interrupt(job.app);
+    result = tool(job.Env());
+  }
+  job.ui.HideProgress();
+  return std::nullopt;
+}
+
 int EndToolJob(CliIo& io, const ToolJobResult& result, std::string_view done_word) {
   for (const std::string& failure : result.failures) io.err << kProgramName << ": " << failure << '\n';
   PrintCounts(io, result.done, done_word, result.skipped, result.failed, result.cancelled);

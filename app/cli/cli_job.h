@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <span>
 #include <string>
@@ -86,6 +87,14 @@ class CliJob {
 // A run's or a tool's counts on standard error: "3 copied, 0 skipped, 1 failed".
 void PrintCounts(CliIo& io, std::int64_t done, std::string_view done_word, std::int64_t skipped,
                  std::int64_t failed, bool cancelled);
+
+// The files of `files` listed and `tool` run on them, Ctrl-C standing for
+// Esc; the job's result goes to `result`. The exit status when the files
+// could not be listed (2) or there were none (1); nothing when the tool ran.
+std::optional<int> RunOnFiles(CliJob& job, CliIo& io, std::string_view command,
+                              const FileArgs& files,
+                              const std::function<ToolJobResult(const RenameRunEnv&)>& tool,
+                              ToolJobResult& result);
 
 // The end of a tool job on the command line: each failure named on standard
 // error, then the counts; the exit status (1 when a file failed or the job

@@ -8,7 +8,6 @@
 #include "base/vb_date_text.h"
 #include "cli_job.h"
 #include "platform/files.h"
-#include "shell/cancel.h"
 #include "tools/copy_move.h"
 
 namespace tarnwick::cli {
@@ -134,15 +133,10 @@ int RunCopyOrMove(std::span<const std::string> raw, CliIo& io, bool move) {
     std::replace(text.begin(), text.end(), '\n', ' ');
     return UsageError(io, command, text);
   }
-  if (const auto listed = job.List(args.files)) return UsageError(io, command, *listed);
-  if (job.list.SelectedCount() == 0) return Failure(io, "no file to " + std::string(command));
   if (args.keep_date) job.options.SetOverride("KeepOldFiledate", "Options", "1");
   ToolJobResult result;
-  {
-    ScopedInterruptCancel interrupt(job.app);
-    result = CopyMoveFiles(job.Env(), args.choices);
-  }
-  job.ui.HideProgress();
+  const auto tool = [&](const RenameRunEnv& env) { return CopyMoveFiles(env, args.choices); };
+  if (auto status = RunOnFiles(job, io, command, args.files, tool, result)) return *status;
   const std::string_view done_word =
       args.choices.batch_only ? "written to the script" : (move ? "moved" : "copied");
   const int status = EndToolJob(io, result, done_word);

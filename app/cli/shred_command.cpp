@@ -3,7 +3,6 @@
 #include <cstdlib>
 
 #include "cli_job.h"
-#include "shell/cancel.h"
 #include "tools/secure_delete.h"
 
 namespace tarnwick::cli {
@@ -41,16 +40,11 @@ int RunShred(std::span<const std::string> raw, CliIo& io) {
   ShredArgs args;
   if (auto error = ParseShred(raw, args)) return UsageError(io, "shred", *error);
   CliJob job(io, args.yes, true);
-  if (const auto listed = job.List(args.files)) return UsageError(io, "shred", *listed);
-  if (job.list.SelectedCount() == 0) return Failure(io, "no file to shred");
   const int passes = args.passes > 0 ? args.passes : ShredPasses(job.options);
   SystemRandom random;
   ToolJobResult result;
-  {
-    ScopedInterruptCancel interrupt(job.app);
-    result = SecureDeleteFiles(job.Env(), passes, random);
-  }
-  job.ui.HideProgress();
+  const auto tool = [&](const RenameRunEnv& env) { return SecureDeleteFiles(env, passes, random); };
+  if (auto status = RunOnFiles(job, io, "shred", args.files, tool, result)) return *status;
   if (result.refused) {
     io.err << kProgramName << ": not confirmed, nothing was touched (answer on a terminal, or add --yes)\n";
     return kExitRefused;

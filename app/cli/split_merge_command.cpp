@@ -6,7 +6,6 @@
 #include "base/path_text.h"
 #include "cli_job.h"
 #include "platform/files.h"
-#include "shell/cancel.h"
 #include "tools/merge_files.h"
 #include "tools/split_file.h"
 
@@ -88,14 +87,9 @@ int RunSplit(std::span<const std::string> raw, CliIo& io) {
     io.err << kProgramName << ": " << refused << '\n';
     return kExitRefused;
   }
-  if (const auto listed = job.List(args.files)) return UsageError(io, "split", *listed);
-  if (job.list.SelectedCount() == 0) return Failure(io, "no file to split");
   ToolJobResult result;
-  {
-    ScopedInterruptCancel interrupt(job.app);
-    result = SplitFiles(job.Env(), args.choices);
-  }
-  job.ui.HideProgress();
+  const auto tool = [&](const RenameRunEnv& env) { return SplitFiles(env, args.choices); };
+  if (auto status = RunOnFiles(job, io, "split", args.files, tool, result)) return *status;
   return EndToolJob(io, result, "split");
 }
 
@@ -142,14 +136,9 @@ int RunMerge(std::span<const std::string> raw, CliIo& io) {
     io.err << kProgramName << ": " << refused << '\n';
     return kExitRefused;
   }
-  if (const auto listed = job.List(args.files)) return UsageError(io, "merge", *listed);
-  if (job.list.SelectedCount() == 0) return Failure(io, "no file to merge");
   ToolJobResult result;
-  {
-    ScopedInterruptCancel interrupt(job.app);
-    result = MergeFiles(job.Env(), args.choices);
-  }
-  job.ui.HideProgress();
+  const auto tool = [&](const RenameRunEnv& env) { return MergeFiles(env, args.choices); };
+  if (auto status = RunOnFiles(job, io, "merge", args.files, tool, result)) return *status;
   const int status = EndToolJob(io, result, "merged");
   if (result.refused) return kExitRefused;
   if (status == kExitOk) io.out << args.choices.target << '\n';
