@@ -20,6 +20,11 @@ QString DataHome() {
   return data.isEmpty() ? QDir::homePath() + "/.local/share" : QString::fromLocal8Bit(data);
 }
 
+QString ConfigHome() {
+  const QByteArray config = qgetenv("XDG_CONFIG_HOME");
+  return config.isEmpty() ? QDir::homePath() + "/.config" : QString::fromLocal8Bit(config);
+}
+
 QString ApplicationsFolder() { return DataHome() + "/applications"; }
 QString MimeFolder() { return DataHome() + "/mime"; }
 
@@ -62,6 +67,17 @@ bool SetFolderAction(bool installed, const std::string& caption) {
                         "NoDisplay=true\nMimeType=inode/directory;\n";
   file.write(entry.toUtf8());
   return file.commit();
+}
+
+std::string AutostartPath() { return S(ConfigHome() + "/autostart/tarnwick.desktop"); }
+
+bool SetAutostart(bool on) {
+  const QString path = Q(AutostartPath());
+  if (!on) return !QFile::exists(path) || QFile::remove(path);
+  return WriteWholeFile(path, "[Desktop Entry]\nType=Application\nName=Tarnwick\nExec=\"" +
+                                  ProgramPath() +
+                                  "\"\nIcon=tarnwick\nTerminal=false\n"
+                                  "X-GNOME-Autostart-enabled=true\n");
 }
 
 std::string SettingsMimeTypePath() { return S(MimeFolder() + "/packages/tarnwick-settings.xml"); }

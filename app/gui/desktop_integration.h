@@ -13,6 +13,13 @@ bool SetFolderAction(bool installed, const std::string& caption);
 // The path of that desktop entry.
 std::string FolderActionPath();
 
+// "Start with Windows" on Linux: an XDG autostart entry
+// ($XDG_CONFIG_HOME/autostart/tarnwick.desktop, else ~/.config/autostart)
+// that starts the window when the user logs in; removed when off. Returns
+// false when it cannot be written or removed.
+bool SetAutostart(bool on);
+std::string AutostartPath();
+
 // The MIME type of settings files.
 inline constexpr char kSettingsMimeType[] = "application/x-tarnwick-settings";
 

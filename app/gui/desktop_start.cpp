@@ -81,6 +81,8 @@ int RunDesktop(int& argc, char** argv, std::span<const std::string> args, std::o
   QApplication::setOrganizationName("Oakhollow");
   OptionStore options = OptionStore::ForCurrentUser();
   InstallQtTranslations(application, ChosenLanguage(options));
+  // "Use current Windows style": the desktop's own style; off, Qt's Fusion.
+  if (options.GetOption("UseWindowsStyle", "Options", "1") == "0") QApplication::setStyle("Fusion");
   MainWindow window(options, MessageTable::Get(ChosenLanguage(options)));
   // "tarnwick PLAYLIST.m3u": the playlist's folder in the window, the
   // playlist in the editor.

@@ -127,6 +127,7 @@ void MainWindow::BuildMenus() {
 
 void MainWindow::EditOptions() {
   const std::string context_menu = options_.GetOption("ContextMenu", "Options", "0");
+  const std::string autostart = options_.GetOption("StartWithWindows", "Options", "0");
   const std::map<std::string, std::string> defaults = {
       {"LogFilePath", log_state_.DefaultLogFolder + "/Tarnwick.log"},
       {"UndoFilePath", log_state_.DefaultUndoFolder}};
@@ -136,6 +137,8 @@ void MainWindow::EditOptions() {
   if (now != context_menu) {
     SetFolderAction(now == "1", std::string(messages_.Text("options.context_menu_entry")));
   }
+  const std::string autostart_now = options_.GetOption("StartWithWindows", "Options", "0");
+  if (autostart_now != autostart) SetAutostart(autostart_now == "1");
   model_->SetHeadings(ColumnHeadings(options_, messages_),
                       std::string(messages_.Text("result_list.column_new_name")));
   SetNewNameColumnShown(options_.GetOption("ShowNewNames", "Options", "1") != "0");

@@ -1,10 +1,8 @@
 // The tools of the Tools menu that work on the selected rows.
 #include <QFileDialog>
 
-#include <QDesktopServices>
-#include <QUrl>
-
 #include "copy_move_dialog.h"
+#include "desktop_integration.h"
 #include "log_viewer.h"
 #include "main_window.h"
 #include "qt_text.h"
@@ -120,8 +118,7 @@ void MainWindow::ShowChecksums(DigestKind kind) {
 namespace {
 
 bool OpenOnDesktop(const std::function<bool(const std::string&)>& opener, const std::string& path) {
-  if (opener) return opener(path);
-  return QDesktopServices::openUrl(QUrl::fromLocalFile(Q(path)));
+  return opener ? opener(path) : OpenWithDesktop(path);
 }
 
 }  // namespace

@@ -133,6 +133,15 @@ const std::vector<OptionRow>& OptionRows() {
 
 namespace {
 
+// What the options named after Windows do on Linux, as their tooltip.
+const char* LinuxMeaningKey(const std::string& key) {
+  if (key == "StartWithWindows") return "options.linux_start_with_windows";
+  if (key == "UseWindowsStyle") return "options.linux_use_windows_style";
+  if (key == "ContextMenu") return "options.linux_context_menu";
+  if (key == "SecureWindowsFolder") return "options.linux_secure_windows_folder";
+  return nullptr;
+}
+
 const OptionRow* RowOf(const std::string& key) {
   for (const OptionRow& row : OptionRows()) {
     if (key == row.key) return &row;
@@ -353,6 +362,7 @@ QWidget* OptionsDialog::Editor(const OptionRow& row, QWidget* parent) {
       break;
   }
   editor->setObjectName(row.key);
+  if (const char* meaning = LinuxMeaningKey(row.key)) editor->setToolTip(Msg(messages_, meaning));
   return editor;
 }
 

@@ -104,6 +104,20 @@ constexpr MessageEntry kEntries[] = {
     {0, "options.copy_button", "Copy button", "Kopierschaltfläche"},
     {0, "options.start_with_windows", "Start Tarnwick with Windows",
      "Tarnwick mit Windows starten"},
+    // What the options named after Windows do on Linux; our words.
+    {0, "options.linux_start_with_windows",
+     "On Linux: Tarnwick starts when you log in (an entry in ~/.config/autostart).",
+     "Unter Linux: Tarnwick startet bei der Anmeldung (ein Eintrag in ~/.config/autostart)."},
+    {0, "options.linux_use_windows_style",
+     "On Linux: the desktop's own style; off, Qt's Fusion style. Applies at the next start.",
+     "Unter Linux: der eigene Stil der Arbeitsumgebung; aus: der Fusion-Stil von Qt. Gilt ab dem "
+     "nächsten Start."},
+    {0, "options.linux_context_menu",
+     "On Linux: \"Run Tarnwick\" in the file manager's \"Open with\" menu of folders.",
+     "Unter Linux: \"Tarnwick ausführen\" im Menü \"Öffnen mit\" des Dateimanagers für Ordner."},
+    {0, "options.linux_secure_windows_folder",
+     "On Linux: no question before renaming in a system folder (/usr, /etc, /bin ...).",
+     "Unter Linux: keine Rückfrage vor dem Umbenennen in einem Systemordner (/usr, /etc, /bin ...)."},
 
     // Options dialogue: defaults, file view, crash recovery, context menu.
     {0, "options.set_all_back_to_defaults", "Set all options back to defaults?",

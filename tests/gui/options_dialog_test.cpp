@@ -227,6 +227,26 @@ TEST_F(OptionsDialogTest, TheFolderActionIsWrittenAndRemoved) {
   qputenv("XDG_DATA_HOME", before);
 }
 
+TEST_F(OptionsDialogTest, StartWithWindowsIsAnAutostartEntryAndTheWindowsOptionsSayTheirLinuxMeaning) {
+  TempDir config;
+  const QByteArray before = qgetenv("XDG_CONFIG_HOME");
+  qputenv("XDG_CONFIG_HOME", QByteArray::fromStdString(config.str()));
+  ASSERT_TRUE(gui::SetAutostart(true));
+  const std::string entry = config.ReadFile("autostart/tarnwick.desktop");
+  EXPECT_NE(entry.find("[Desktop Entry]\nType=Application\n"), std::string::npos);
+  EXPECT_NE(entry.find("\nExec=\""), std::string::npos);
+  ASSERT_TRUE(gui::SetAutostart(false));
+  EXPECT_FALSE(QFile::exists(QString::fromStdString(gui::AutostartPath())));
+  qputenv("XDG_CONFIG_HOME", before);
+
+  OptionsDialog dialog(options, messages, questions, computed);
+  for (const char* key : {"StartWithWindows", "UseWindowsStyle", "ContextMenu", "SecureWindowsFolder"}) {
+    QWidget* editor = dialog.findChild<QWidget*>(key);
+    ASSERT_NE(editor, nullptr) << key;
+    EXPECT_TRUE(editor->toolTip().startsWith("On Linux: ")) << key;
+  }
+}
+
 TEST_F(OptionsDialogTest, TheSettingsFileTypeIsRegisteredForTheUser) {
   TempDir data;
   const QByteArray before = qgetenv("XDG_DATA_HOME");
