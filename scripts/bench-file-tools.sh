@@ -9,9 +9,10 @@
 #   MD5 of 1,000 files of 2 MB                tarnwick-cli checksum  vs  md5sum
 #   SHA-256 of the same files                 tarnwick-cli checksum  vs  sha256sum
 #   secure delete of 100 MB, 1 pass           tarnwick-cli shred     vs  shred -n 1 -u
-# Each figure is the best of three from a warm page cache. Tarnwick's merge
-# flushes the whole file to disk before it takes its name; cat does not, so
-# it is given plain and followed by `sync`. One pass of Tarnwick's shredder
+# Each figure is the best of three from a warm page cache. A merge into a
+# new file that keeps its sources is not flushed (as cat's); one that
+# replaces a file or deletes its sources is, so cat is also given followed
+# by `sync`. One pass of Tarnwick's shredder
 # is four sweeps (0/255/255, then random), each flushed; shred -n 1 writes
 # one random sweep: the bytes written are given beside the times.
 # --quick: a 256 MB file, 200 files of 2 MB and 20 MB to shred.

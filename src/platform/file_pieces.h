@@ -33,9 +33,11 @@ class StagedFile {
   // Appends the whole of `source`, streamed, never held in memory.
   FileStatus Append(const std::filesystem::path& source);
   std::uint64_t size() const { return size_; }
-  // Flushes the file to disk and puts it under its final name: replacing a
-  // file there only with `replace`, else failing with 58.
-  FileStatus Commit(bool replace);
+  // Puts the file under its final name: replacing a file there only with
+  // `replace`, else failing with 58. With `flush` its data reach the disk
+  // first, so that a crash cannot leave a short file where a whole one stood
+  // (needed when a file is replaced, or when the sources go next).
+  FileStatus Commit(bool replace, bool flush);
 
  private:
   std::filesystem::path final_path_;

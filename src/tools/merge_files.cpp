@@ -100,7 +100,10 @@ ToolJobResult MergeFiles(const RenameRunEnv& env, const MergeChoices& choices) {
     job.Finish(false);
     return job.result();
   }
-  if (status.ok()) status = staged.Commit(choices.overwrite);
+  // A new file whose sources stay loses nothing in a crash, as `cat` would
+  // not; a replaced target or deleted sources need the data on the disk.
+  const bool flush = choices.delete_source || IdentityOf(choices.target).has_value();
+  if (status.ok()) status = staged.Commit(choices.overwrite, flush);
   if (!status.ok()) {
     job.LogTool(title, job.Text("run.log_error") + " \"" + choices.target + "\" (" +
                            ErrorText(status) + ")");

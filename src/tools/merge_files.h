@@ -23,8 +23,9 @@ std::string CheckMergeChoices(const MergeChoices& choices, const MessageTable& m
 // when asked), appended one after the other into the target.
 //
 // The target is built under a hidden name in its folder and takes its name
-// only when every source is in it, flushed to disk; an existing target is
-// then replaced in one step (only with `overwrite`), never deleted first.
+// only when every source is in it (flushed to disk first when it replaces a
+// file or the sources are to go); an existing target is then replaced in
+// one step (only with `overwrite`), never deleted first.
 // The sources are deleted (when asked) only after that. A failure, Esc, or a
 // target that is one of the sources leaves every file as it was. The list
 // is read again.

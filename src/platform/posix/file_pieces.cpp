@@ -109,9 +109,9 @@ FileStatus StagedFile::Append(const std::filesystem::path& source) {
   return FileStatus::Success();
 }
 
-FileStatus StagedFile::Commit(bool replace) {
+FileStatus StagedFile::Commit(bool replace, bool flush) {
   if (fd_ < 0) return FileStatus::Error(vb_error::kBadFileName);
-  if (::fchmod(fd_, NewFileMode()) != 0 || ::fsync(fd_) != 0) {
+  if (::fchmod(fd_, NewFileMode()) != 0 || (flush && ::fsync(fd_) != 0)) {
     return posix::StatusFromErrno(errno, final_path_);
   }
   const int error = replace ? (::rename(temporary_.c_str(), final_path_.c_str()) == 0 ? 0 : errno)
