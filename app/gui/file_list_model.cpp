@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QBrush>
 #include <QFont>
+#include <QMimeDatabase>
 #include <QStyle>
 
 #include "qt_text.h"
@@ -10,7 +11,9 @@
 namespace tarnwick::gui {
 
 FileListModel::FileListModel(const FileList& list, const NewNamePreview& preview, QObject* parent)
-    : QAbstractTableModel(parent), list_(list), preview_(preview) {}
+    : QAbstractTableModel(parent), list_(list), preview_(preview) {
+  connect(&thumbnails_, &ThumbnailCache::Ready, this, &FileListModel::ThumbnailReady);
+}
 
 void FileListModel::SetHeadings(const std::array<std::string, file_column::kCount>& headings,
                                 const std::string& new_name_heading) {
@@ -30,9 +33,9 @@ void FileListModel::NewNamesChanged(int first, int last) {
   emit dataChanged(index(first, kNewNameColumn), index(last, kNewNameColumn));
 }
 
-void FileListModel::SetDecorated(bool decorated) {
-  if (decorated_ == decorated) return;
-  decorated_ = decorated;
+void FileListModel::SetIcons(Icons icons) {
+  if (icons_ == icons) return;
+  icons_ = icons;
   if (shown_rows_ > 0) emit dataChanged(index(0, 0), index(shown_rows_ - 1, 0));
 }
 
@@ -65,13 +68,50 @@ QVariant FileListModel::data(const QModelIndex& index, int role) const {
     return Q(list_.Path(row)) + "\n" + Q(list_.Text(row, file_column::kSize)) + "    " +
            Q(list_.Text(row, file_column::kDate));
   }
-  if (role == Qt::DecorationRole && decorated_ && column == file_column::kName) {
-    return QApplication::style()->standardIcon(QStyle::SP_FileIcon);
+  if (role == Qt::DecorationRole && icons_ != Icons::kNone && column == file_column::kName) {
+    return NameIcon(row);
   }
   if (role == Qt::TextAlignmentRole && column == file_column::kSize) {
     return QVariant(Qt::AlignRight | Qt::AlignVCenter);
   }
   return {};
+}
+
+QIcon FileListModel::TypeIcon(const std::string& name) const {
+  const QString file = Q(name);
+  const qsizetype dot = file.lastIndexOf('.');
+  const QString extension = dot < 0 ? QString() : file.mid(dot + 1).toLower();
+  if (const auto found = type_icons_.constFind(extension); found != type_icons_.constEnd()) {
+    return *found;
+  }
+  static const QMimeDatabase database;
+  const QMimeType type = database.mimeTypeForFile(file, QMimeDatabase::MatchExtension);
+  QIcon icon = QIcon::fromTheme(type.iconName(), QIcon::fromTheme(type.genericIconName()));
+  if (icon.isNull()) icon = QApplication::style()->standardIcon(QStyle::SP_FileIcon);
+  type_icons_.insert(extension, icon);
+  return icon;
+}
+
+QIcon FileListModel::NameIcon(std::size_t row) const {
+  const std::string name = list_.Text(row, file_column::kName);
+  if (icons_ == Icons::kThumbnails && ThumbnailCache::HasThumbnail(Q(name))) {
+    const QString path = Q(list_.Path(row));
+    const QIcon picture = thumbnails_.Find(path);
+    if (!picture.isNull()) return picture;
+    thumbnail_rows_.insert(path, static_cast<int>(row));
+  }
+  return TypeIcon(name);
+}
+
+// A picture made in the background: its row is drawn again, if the row
+// still shows that file.
+void FileListModel::ThumbnailReady(const QString& path) {
+  const auto found = thumbnail_rows_.constFind(path);
+  if (found == thumbnail_rows_.constEnd()) return;
+  const int row = *found;
+  thumbnail_rows_.erase(found);
+  if (row >= shown_rows_ || Q(list_.Path(static_cast<std::size_t>(row))) != path) return;
+  emit dataChanged(index(row, 0), index(row, 0), {Qt::DecorationRole});
 }
 
 QVariant FileListModel::headerData(int section, Qt::Orientation orientation, int role) const {

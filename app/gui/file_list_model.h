@@ -1,10 +1,13 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <QHash>
+#include <QIcon>
 #include <array>
 #include <string>
 
 #include "core/new_name_preview.h"
+#include "thumbnail_cache.h"
 #include "filelist/file_list.h"
 
 namespace tarnwick::gui {
@@ -29,7 +32,13 @@ class FileListModel : public QAbstractTableModel {
   // The "New name" column changed for the rows from `first` to `last`.
   void NewNamesChanged(int first, int last);
   // Gives the names a file icon, for the symbols view.
-  void SetDecorated(bool decorated);
+  // What the name column shows beside the name: nothing, the desktop's icon
+  // of the file's type, or (Symbols) a small picture of JPEG and PNG files,
+  // made in the background, and the type's icon for the rest.
+  enum class Icons { kNone, kTypes, kThumbnails };
+  void SetIcons(Icons icons);
+  Icons icons() const { return icons_; }
+  ThumbnailCache& thumbnails() { return thumbnails_; }
   // `ShowTooltips`: a row's tooltip tells its file's path, size and date.
   void SetFileTooltips(bool shown) { file_tooltips_ = shown; }
   // The tooltip of a new name that collides.
@@ -45,7 +54,14 @@ class FileListModel : public QAbstractTableModel {
   const NewNamePreview& preview_;
   int shown_rows_ = 0;
   std::array<QString, file_column::kCount + 1> headings_;
-  bool decorated_ = false;
+  QIcon TypeIcon(const std::string& name) const;
+  QIcon NameIcon(std::size_t row) const;
+  void ThumbnailReady(const QString& path);
+
+  Icons icons_ = Icons::kNone;
+  mutable QHash<QString, QIcon> type_icons_;  // by lower-case extension
+  mutable ThumbnailCache thumbnails_;
+  mutable QHash<QString, int> thumbnail_rows_;
   bool file_tooltips_ = true;
   QString collision_tip_;
 };

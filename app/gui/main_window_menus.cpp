@@ -142,6 +142,7 @@ void MainWindow::EditOptions() {
   model_->SetHeadings(ColumnHeadings(options_, messages_),
                       std::string(messages_.Text("result_list.column_new_name")));
   SetNewNameColumnShown(options_.GetOption("ShowNewNames", "Options", "1") != "0");
+  SetListViewMode(view_mode_);  // "Show icons in filelist" may have changed
   ApplyTooltipOptions();
   FillListFiles();
 }

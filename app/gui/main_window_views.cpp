@@ -8,7 +8,9 @@
 
 #include "file_list_model.h"
 #include "main_window.h"
+#include "persist/option_store.h"
 #include "qt_text.h"
+#include "thumbnail_cache.h"
 
 namespace tarnwick::gui {
 
@@ -71,18 +73,22 @@ void MainWindow::SetListViewMode(ListViewMode mode) {
   const int index = static_cast<int>(mode);
   if (index < view_mode_actions_.size()) view_mode_actions_[index]->setChecked(true);
   const bool had_focus = files_->hasFocus() || names_->hasFocus();
+  // "Show icons in filelist" gives List and Details the type icons; Symbols
+  // always shows pictures and icons.
+  const bool icons = options_.GetOption("Icons", "Options", "1") != "0";
+  const FileListModel::Icons plain = icons ? FileListModel::Icons::kTypes : FileListModel::Icons::kNone;
   if (mode == ListViewMode::kDetails) {
-    model_->SetDecorated(false);
+    model_->SetIcons(plain);
     list_views_->setCurrentWidget(files_);
   } else {
     const bool symbols = mode == ListViewMode::kSymbols;
-    model_->SetDecorated(symbols);
+    model_->SetIcons(symbols ? FileListModel::Icons::kThumbnails : plain);
     names_->setViewMode(symbols ? QListView::IconMode : QListView::ListMode);
     // The list mode fills columns from top to bottom, as a folder window does.
     names_->setFlow(symbols ? QListView::LeftToRight : QListView::TopToBottom);
     names_->setWrapping(true);
-    names_->setIconSize(symbols ? QSize(32, 32) : QSize());
-    names_->setGridSize(symbols ? QSize(110, 64) : QSize());
+    names_->setIconSize(symbols ? QSize(ThumbnailCache::kSize, ThumbnailCache::kSize) : QSize());
+    names_->setGridSize(symbols ? QSize(120, ThumbnailCache::kSize + 44) : QSize());
     names_->setWordWrap(symbols);
     names_->setMovement(QListView::Static);
     list_views_->setCurrentWidget(names_);

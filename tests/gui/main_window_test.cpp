@@ -8,6 +8,8 @@
 #include <QFileSystemModel>
 #include <QGroupBox>
 #include <QGuiApplication>
+#include <QIcon>
+#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -448,6 +450,39 @@ TEST_F(MainWindowTest, TheWindowStaysOnTheScreenAndTheTreeShowsTheCurrentFolder)
   }));
 }
 
+TEST_F(MainWindowTest, SymbolsShowPicturesMadeInTheBackgroundAndTypeIconsForTheRest) {
+  QImage picture(128, 64, QImage::Format_RGB32);
+  picture.fill(Qt::darkGreen);
+  ASSERT_TRUE(picture.save(QString::fromStdString((dir.path() / "wide.png").string())));
+  dir.WriteFile("broken.jpg", "not a picture");
+  window->FillListFiles();
+  window->SetListViewMode(MainWindow::ListViewMode::kSymbols);
+  auto* model = static_cast<gui::FileListModel*>(window->name_view()->model());
+  int wide = -1;
+  int broken = -1;
+  for (std::size_t row = 0; row < window->list().size(); ++row) {
+    const std::string name = window->list().Text(row, file_column::kName);
+    if (name == "wide.png") wide = static_cast<int>(row);
+    if (name == "broken.jpg") broken = static_cast<int>(row);
+  }
+  ASSERT_GE(wide, 0);
+  ASSERT_GE(broken, 0);
+  // First the type's icon, then, once made, the picture at its proportions.
+  const QIcon first = qvariant_cast<QIcon>(model->data(model->index(wide, 0), Qt::DecorationRole));
+  EXPECT_FALSE(first.isNull());
+  model->data(model->index(broken, 0), Qt::DecorationRole);
+  bool redrawn = false;
+  QObject::connect(model, &QAbstractItemModel::dataChanged,
+                   [&](const QModelIndex& from, const QModelIndex&) { redrawn |= from.row() == wide; });
+  model->thumbnails().WaitForAll();
+  ASSERT_TRUE(WaitFor([&] { return redrawn; }));
+  const QIcon made = qvariant_cast<QIcon>(model->data(model->index(wide, 0), Qt::DecorationRole));
+  ASSERT_FALSE(made.availableSizes().isEmpty());
+  EXPECT_EQ(made.availableSizes().front(), QSize(64, 32));
+  // A file that is no picture keeps its type's icon.
+  EXPECT_FALSE(model->data(model->index(broken, 0), Qt::DecorationRole).isNull());
+}
+
 TEST_F(MainWindowTest, ViewModesShareTheSelectionAndTheListMenuActs) {
   ASSERT_EQ(window->list().size(), 3u);
   window->file_view()->selectRow(1);
@@ -463,6 +498,9 @@ TEST_F(MainWindowTest, ViewModesShareTheSelectionAndTheListMenuActs) {
   // A selection made in the list mode is the core list's selection.
   window->SetListViewMode(MainWindow::ListViewMode::kList);
   EXPECT_EQ(names->viewMode(), QListView::ListMode);
+  EXPECT_FALSE(names->model()->data(b, Qt::DecorationRole).isNull());  // the type's icon
+  options.SaveOption("Icons", "Options", "0");  // "Show icons in filelist" off
+  window->SetListViewMode(MainWindow::ListViewMode::kList);
   EXPECT_TRUE(names->model()->data(b, Qt::DecorationRole).isNull());
   names->selectionModel()->select(names->model()->index(2, 0), QItemSelectionModel::Select);
   EXPECT_TRUE(window->list().IsSelected(1));
