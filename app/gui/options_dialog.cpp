@@ -133,6 +133,14 @@ const std::vector<OptionRow>& OptionRows() {
 
 namespace {
 
+// "Picture preview mode %1" of the options View, View1 and View2: 1, 2, 3.
+std::string PreviewModeNumber(const std::string& key) {
+  if (key == "View") return "1";
+  if (key == "View1") return "2";
+  if (key == "View2") return "3";
+  return key;
+}
+
 // What the options named after Windows do on Linux, as their tooltip.
 const char* LinuxMeaningKey(const std::string& key) {
   if (key == "StartWithWindows") return "options.linux_start_with_windows";
@@ -189,7 +197,7 @@ OptionsDialog::OptionsDialog(OptionStore& options, const MessageTable& messages,
     QWidget* editor = Editor(row, forms[row.tab]->parentWidget());
     editors_[row.key] = editor;
     QString caption = Msg(messages, row.caption);
-    if (caption.contains("%1")) caption = Q(FillMessage(S(caption), {row.key}));
+    if (caption.contains("%1")) caption = Q(FillMessage(S(caption), {PreviewModeNumber(row.key)}));
     if (auto* button = qobject_cast<QAbstractButton*>(editor)) {
       button->setText(caption);
       forms[row.tab]->addRow(editor);

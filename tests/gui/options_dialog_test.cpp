@@ -2,6 +2,7 @@
 // the defaults, Cancel stores nothing; the folder action's desktop entry.
 #include "options_dialog.h"
 
+#include <QAbstractButton>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFile>
@@ -245,6 +246,10 @@ TEST_F(OptionsDialogTest, StartWithWindowsIsAnAutostartEntryAndTheWindowsOptions
     ASSERT_NE(editor, nullptr) << key;
     EXPECT_TRUE(editor->toolTip().startsWith("On Linux: ")) << key;
   }
+  // The three preview modes are numbered, not named by their option keys.
+  auto* second = dialog.findChild<QAbstractButton*>("View1");
+  ASSERT_NE(second, nullptr);
+  EXPECT_EQ(second->text(), "Picture preview mode 2");
 }
 
 TEST_F(OptionsDialogTest, TheSettingsFileTypeIsRegisteredForTheUser) {
