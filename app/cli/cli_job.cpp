@@ -116,6 +116,11 @@ std::optional<int> RunOnFiles(CliJob& job, CliIo& io, std::string_view command,
   return std::nullopt;
 }
 
+int Refusal(CliIo& io, std::string_view why) {
+  io.err << kProgramName << ": " << why << '\n';
+  return kExitRefused;
+}
+
 int EndToolJob(CliIo& io, const ToolJobResult& result, std::string_view done_word) {
   for (const std::string& failure : result.failures) io.err << kProgramName << ": " << failure << '\n';
   PrintCounts(io, result.done, done_word, result.skipped, result.failed, result.cancelled);

@@ -104,4 +104,7 @@ int EndToolJob(CliIo& io, const ToolJobResult& result, std::string_view done_wor
 // Exit status of a command whose choices a check of its dialogue refused.
 inline constexpr int kExitRefused = 3;
 
+// Writes "tarnwick-cli: WHY" to standard error; returns kExitRefused.
+int Refusal(CliIo& io, std::string_view why);
+
 }  // namespace tarnwick::cli

@@ -46,8 +46,7 @@ int RunShred(std::span<const std::string> raw, CliIo& io) {
   const auto tool = [&](const RenameRunEnv& env) { return SecureDeleteFiles(env, passes, random); };
   if (auto status = RunOnFiles(job, io, "shred", args.files, tool, result)) return *status;
   if (result.refused) {
-    io.err << kProgramName << ": not confirmed, nothing was touched (answer on a terminal, or add --yes)\n";
-    return kExitRefused;
+    return Refusal(io, "not confirmed, nothing was touched (answer on a terminal, or add --yes)");
   }
   return EndToolJob(io, result, "shredded");
 }

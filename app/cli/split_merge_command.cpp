@@ -83,10 +83,8 @@ int RunSplit(std::span<const std::string> raw, CliIo& io) {
   SplitArgs args;
   if (auto error = ParseSplit(raw, args)) return UsageError(io, "split", *error);
   CliJob job(io, false);
-  if (const std::string refused = CheckSplitChoices(args.choices, job.messages); !refused.empty()) {
-    io.err << kProgramName << ": " << refused << '\n';
-    return kExitRefused;
-  }
+  const std::string refused = CheckSplitChoices(args.choices, job.messages);
+  if (!refused.empty()) return Refusal(io, refused);
   ToolJobResult result;
   const auto tool = [&](const RenameRunEnv& env) { return SplitFiles(env, args.choices); };
   if (auto status = RunOnFiles(job, io, "split", args.files, tool, result)) return *status;
@@ -132,10 +130,8 @@ int RunMerge(std::span<const std::string> raw, CliIo& io) {
   MergeArgs args;
   if (auto error = ParseMerge(raw, args)) return UsageError(io, "merge", *error);
   CliJob job(io, false);
-  if (const std::string refused = CheckMergeChoices(args.choices, job.messages); !refused.empty()) {
-    io.err << kProgramName << ": " << refused << '\n';
-    return kExitRefused;
-  }
+  const std::string refused = CheckMergeChoices(args.choices, job.messages);
+  if (!refused.empty()) return Refusal(io, refused);
   ToolJobResult result;
   const auto tool = [&](const RenameRunEnv& env) { return MergeFiles(env, args.choices); };
   if (auto status = RunOnFiles(job, io, "merge", args.files, tool, result)) return *status;
