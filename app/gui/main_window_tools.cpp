@@ -62,9 +62,10 @@ void MainWindow::RenameFromTextFile() {
   change_timer_.stop();
   new_name_timer_.stop();
   starting_run_ = true;
-  tarnwick::RenameFromTextFile(RunEnv(), file);
+  const RenameRunResult result = tarnwick::RenameFromTextFile(RunEnv(), file);
   starting_run_ = false;
   AfterJob();
+  ShowRunSummary(result);
 }
 
 void MainWindow::SplitSelectedFiles() {

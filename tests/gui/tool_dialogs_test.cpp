@@ -184,6 +184,9 @@ TEST_F(ToolDialogsTest, TheToolsMenuCopiesMovesAndRenamesTheSelectedFiles) {
   EXPECT_TRUE(fs::exists(dir.path() / "files/Alpha.jpg"));
   EXPECT_TRUE(fs::exists(dir.path() / "files/Gamma.txt"));
   EXPECT_EQ(window->list().Text(0, file_column::kName), "Alpha.jpg");  // the list read again
+  // The run ends with its summary, as a run from the Start button does.
+  ASSERT_EQ(interaction.run_summaries().size(), 1u);
+  EXPECT_EQ(interaction.run_summaries().front().done, 3);
 
   window->SelectAll();
   WhenOpen<CopyMoveDialog>([this](CopyMoveDialog* dialog) {
