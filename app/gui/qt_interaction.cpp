@@ -4,7 +4,9 @@
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QKeyEvent>
+#include <QGridLayout>
 #include <QMessageBox>
+#include <QSpacerItem>
 #include <QPushButton>
 
 #include "qt_text.h"
@@ -65,6 +67,17 @@ QString FilterText(const std::vector<FileFilter>& filters) {
   return parts.join(";;");
 }
 
+// A box with a short text is narrower than its title, which the window
+// manager then cuts ("No file... elected"): the box is made wide enough for
+// the title and the buttons of the title bar.
+void KeepTitleWhole(QMessageBox& box) {
+  auto* grid = qobject_cast<QGridLayout*>(box.layout());
+  if (grid == nullptr) return;
+  const int wanted = box.fontMetrics().horizontalAdvance(box.windowTitle()) + 160;
+  grid->addItem(new QSpacerItem(wanted, 0, QSizePolicy::Minimum, QSizePolicy::Expanding),
+                grid->rowCount(), 0, 1, grid->columnCount());
+}
+
 }  // namespace
 
 QtInteraction::QtInteraction(const MessageTable& messages, QWidget* window, ProgressView* view)
@@ -102,6 +115,7 @@ Answer QtInteraction::ShowMessage(const MessageBoxRequest& request) {
   }
   QMessageBox box(IconOf(request.icon), Q(request.title), text, QMessageBox::NoButton, window_);
   if (!details.isEmpty()) box.setDetailedText(details);
+  KeepTitleWhole(box);
   const std::vector<ButtonChoice> choices = ButtonsOf(request.buttons);
   for (const ButtonChoice& choice : choices) box.addButton(choice.button);
   box.exec();

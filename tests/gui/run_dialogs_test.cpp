@@ -4,12 +4,16 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QApplication>
 #include <QLabel>
+#include <QMessageBox>
+#include <QTimer>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
 
 #include "gui/gui_test_support.h"
+#include "qt_interaction.h"
 #include "shell/scripted_interaction.h"
 
 namespace tarnwick::testing {
@@ -150,6 +154,23 @@ TEST_F(RunDialogsTest, TheStartQuestionCountsTheCollisions) {
   EXPECT_EQ(one.findChild<QLabel*>("lblCollisions")->text(), "1 new name collides");
   gui::StartRenamingDialog many(messages, 30);
   EXPECT_EQ(many.findChild<QLabel*>("lblCollisions")->text(), "30 new names collide");
+}
+
+TEST_F(RunDialogsTest, AShortMessageIsWideEnoughForItsWholeTitle) {
+  gui::QtInteraction ui(messages, nullptr, nullptr);
+  int width = 0;
+  int title_width = 0;
+  QTimer::singleShot(0, [&] {
+    QMessageBox* box = nullptr;
+    ASSERT_TRUE(WaitFor([&] { return (box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())); }));
+    width = box->width();
+    title_width = box->fontMetrics().horizontalAdvance(box->windowTitle());
+    box->button(QMessageBox::Ok)->click();
+  });
+  EXPECT_EQ(ui.ShowMessage({"No files selected", "No!", Buttons::kOk, MessageIcon::kExclamation,
+                            Topic::kNotice}),
+            Answer::kOk);
+  EXPECT_GT(width, title_width + 100);
 }
 
 TEST_F(RunDialogsTest, TheSummaryCountsTheRunAndOffersLogAndUndo) {
