@@ -188,6 +188,8 @@ void MainWindow::UndoLastRun() {
       failures.push_back(step.line.new_path + ": " + step.status.description);
     }
   });
+  // Taken back whole: the next undo reaches the run before it.
+  if (report.failed == 0 && report.runs_done == 1) DropNewestUndoRun(batch);
   std::string text = FillMessage(messages_.Text("options.undo_batch_done"),
                                  {std::to_string(report.done), std::to_string(report.failed),
                                   std::to_string(report.skipped)});

@@ -7,6 +7,7 @@
 
 #include "base/path_text.h"
 #include "core/journal.h"
+#include "persist/log_append.h"
 #include "platform/files.h"
 
 namespace tarnwick {
@@ -120,6 +121,14 @@ UndoReport RunUndoBatch(const std::filesystem::path& batch, const UndoRunOptions
     ++report.runs_done;
   }
   return report;
+}
+
+FileStatus DropNewestUndoRun(const std::filesystem::path& batch) {
+  const FileResult<std::string> bytes = ReadBatchBytes(batch);
+  if (!bytes.ok()) return bytes.status();
+  const std::string_view rest = WithoutNewestRun(bytes.value());
+  if (ReadUndoBatchText(rest).runs.empty()) return DeleteFile(batch);
+  return ReplaceFileWith(batch, rest);
 }
 
 }  // namespace tarnwick

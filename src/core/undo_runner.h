@@ -31,6 +31,10 @@ struct UndoBatchText {
 // lines that name no files are left out.
 UndoBatchText ReadUndoBatchText(std::string_view bytes);
 
+// The bytes of a batch without its newest run, which stands first: from the
+// "@echo off" that opens the second run on (nothing when there is one run).
+std::string_view WithoutNewestRun(std::string_view bytes);
+
 // --- Carrying a batch out. ----------------------------------------------------
 
 struct UndoRunOptions {
@@ -76,5 +80,10 @@ struct UndoReport {
 // is handed to `on_step` as it is dealt with.
 UndoReport RunUndoBatch(const std::filesystem::path& batch, const UndoRunOptions& options,
                         const std::function<void(const UndoStep&)>& on_step);
+
+// Takes the newest run out of the batch after it was undone, so that the
+// next undo reaches the run before it. A batch left without a run is
+// deleted. The old batch is replaced whole or not at all.
+FileStatus DropNewestUndoRun(const std::filesystem::path& batch);
 
 }  // namespace tarnwick

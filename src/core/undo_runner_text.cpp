@@ -10,6 +10,28 @@ bool StartsRun(std::string_view line) {
 
 }  // namespace
 
+std::string_view WithoutNewestRun(std::string_view bytes) {
+  // The newest run stands first; it ends where a header opens the next run,
+  // by the rule of ReadUndoBatchText.
+  bool run_has_header = false;
+  bool run_has_lines = false;
+  std::size_t at = 0;
+  while (at < bytes.size()) {
+    std::size_t end = bytes.find('\n', at);
+    if (end == std::string_view::npos) end = bytes.size();
+    std::string_view line = bytes.substr(at, end - at);
+    if (line.ends_with('\r')) line.remove_suffix(1);
+    if (StartsRun(line)) {
+      if (run_has_header || run_has_lines) return bytes.substr(at);
+      run_has_header = true;
+    } else if (ParseUndoLine(line)) {
+      run_has_lines = true;
+    }
+    at = end + 1;
+  }
+  return {};
+}
+
 UndoBatchText ReadUndoBatchText(std::string_view bytes) {
   UndoBatchText text;
   text.runs.emplace_back();

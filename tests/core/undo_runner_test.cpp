@@ -64,6 +64,25 @@ TEST_F(UndoRunnerTest, NewestRunFirstEachFromItsLastLineAndNeverOverwriting) {
   EXPECT_EQ(ReadWholeFile(dir.path() / "a"), "was a");
 }
 
+TEST_F(UndoRunnerTest, TheNewestRunCanBeTakenOutAfterItWasUndone) {
+  // Newest run first: b -> c; then the older run: a -> b.
+  const std::string older = "@echo off\r\necho on\r\n" + Line("a", "b");
+  Write("u.bat", " \r\n@echo off\r\necho on\r\n" + Line("b", "c") + older);
+  Write("c", "was a");
+  EXPECT_EQ(Undo({.runs = 1}).done, 1);
+  ASSERT_EQ(DropNewestUndoRun(Path("u.bat")).number, 0);
+  EXPECT_EQ(ReadWholeFile(dir.path() / "u.bat"), older);
+  // The next undo reaches the older run.
+  EXPECT_EQ(Undo({.runs = 1}).done, 1);
+  EXPECT_EQ(ReadWholeFile(dir.path() / "a"), "was a");
+  // The last run taken out leaves no batch.
+  ASSERT_EQ(DropNewestUndoRun(Path("u.bat")).number, 0);
+  EXPECT_FALSE(Exists("u.bat"));
+  // Lines before the first header form the newest run of their own.
+  EXPECT_EQ(WithoutNewestRun(Line("x", "y") + older), older);
+  EXPECT_EQ(WithoutNewestRun(older), "");
+}
+
 TEST_F(UndoRunnerTest, RunsLimitEscapedNamesAndRefusedPaths) {
   const std::string odd = "q\"uo\nte";
   Write(odd + "2", "odd");

@@ -163,6 +163,10 @@ TEST_F(MainWindowTest, PrefixAndNumberingShowInTheSampleAndTheRunRenames) {
   EXPECT_EQ(CellText(0, 0), "a.txt");
   EXPECT_NE(interaction.asked().back().text.find("3 done, 0 failed"), std::string::npos)
       << interaction.asked().back().text;
+  // The run taken back is out of the batch: there is nothing left to undo.
+  for (const auto& entry : std::filesystem::directory_iterator(config.path())) {
+    EXPECT_NE(entry.path().extension(), ".bat") << entry.path();
+  }
 }
 
 TEST_F(MainWindowTest, TheSummaryAfterARunCountsItAndItsUndoTakesTheRunBack) {
