@@ -141,6 +141,10 @@ int RunScreenshot(int& argc, char** argv, std::span<const std::string> args, std
   window.FinishNewNames();
   window.show();
   QApplication::processEvents();
+  // A first drawing asks for the pictures of the Symbols view; the saved one
+  // shows them.
+  window.grab();
+  window.FinishThumbnails();
   if (!window.grab().save(out)) {
     err << "tarnwick: could not write " << args[1] << '\n';
     return 2;

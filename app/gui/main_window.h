@@ -114,6 +114,8 @@ class MainWindow : public QMainWindow, public ProgressView {
   void SetDesktopOpener(std::function<bool(const std::string&)> opener) {
     desktop_opener_ = std::move(opener);
   }
+  // Waits until the pictures the list asked for are made and shown.
+  void FinishThumbnails();
   void SplitSelectedFiles();
   void MergeSelectedFiles();
   void SecureDeleteSelectedFiles();

@@ -1,5 +1,6 @@
 // The list's three views and the menu of its right mouse button.
 #include <QAction>
+#include <QCoreApplication>
 #include <QActionGroup>
 #include <QListView>
 #include <QMenu>
@@ -97,6 +98,11 @@ void MainWindow::SetListViewMode(ListViewMode mode) {
   const QModelIndex current = files_->selectionModel()->currentIndex();
   if (current.isValid()) shown->scrollTo(model_->index(current.row(), 0));
   if (had_focus) shown->setFocus();
+}
+
+void MainWindow::FinishThumbnails() {
+  model_->thumbnails().WaitForAll();
+  QCoreApplication::processEvents();
 }
 
 }  // namespace tarnwick::gui
