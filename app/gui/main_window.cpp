@@ -10,6 +10,7 @@
 #include <QFileSystemModel>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QFontMetrics>
 #include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QLabel>
@@ -189,6 +190,7 @@ QWidget* MainWindow::BuildListPane() {
   files_->setColumnHidden(FileListModel::kNewNameColumn, !new_names_shown_);
   files_->setColumnWidth(file_column::kName, 240);
   files_->setColumnWidth(FileListModel::kNewNameColumn, 240);
+  FitColumnsToHeadings();
   files_->horizontalHeader()->moveSection(FileListModel::kNewNameColumn, 1);
   files_->setDragDropMode(QAbstractItemView::NoDragDrop);
   files_->installEventFilter(this);
@@ -673,6 +675,17 @@ void MainWindow::ShowRunSummary(const RenameRunResult& result) {
       {result.mode, result.done, result.skipped, result.failed, result.cancelled});
   if (choice == RunSummaryChoice::kShowLog) ShowLogFile();
   if (choice == RunSummaryChoice::kUndo) UndoLastRun();
+}
+
+// No heading is cut ("JPEG-EXIF-Datum"): each column is at least as wide as
+// its heading and the sort arrow.
+void MainWindow::FitColumnsToHeadings() {
+  const QFontMetrics metrics(files_->horizontalHeader()->font());
+  for (int column = 0; column < model_->columnCount(); ++column) {
+    const QString heading = model_->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+    const int wanted = metrics.horizontalAdvance(heading) + 32;
+    if (files_->columnWidth(column) < wanted) files_->setColumnWidth(column, wanted);
+  }
 }
 
 RenameRunEnv MainWindow::RunEnv() {

@@ -204,6 +204,7 @@ class MainWindow : public QMainWindow, public ProgressView {
   // The names view of the list and symbols modes, beside the table.
   QWidget* BuildListViews(QWidget* pane);
   void BuildViewModeMenu(QMenu* view);
+  void FitColumnsToHeadings();
   void BuildListMenu(QAction* refresh, QMenu* select);
   QWidget* BuildLowerPane();
   PipelineEnv SampleEnv();

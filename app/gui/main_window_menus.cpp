@@ -141,6 +141,7 @@ void MainWindow::EditOptions() {
   if (autostart_now != autostart) SetAutostart(autostart_now == "1");
   model_->SetHeadings(ColumnHeadings(options_, messages_),
                       std::string(messages_.Text("result_list.column_new_name")));
+  FitColumnsToHeadings();
   SetNewNameColumnShown(options_.GetOption("ShowNewNames", "Options", "1") != "0");
   SetListViewMode(view_mode_);  // "Show icons in filelist" may have changed
   ApplyTooltipOptions();

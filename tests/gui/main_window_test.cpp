@@ -8,6 +8,7 @@
 #include <QFileSystemModel>
 #include <QGroupBox>
 #include <QGuiApplication>
+#include <QHeaderView>
 #include <QIcon>
 #include <QImage>
 #include <QLabel>
@@ -485,6 +486,18 @@ TEST_F(MainWindowTest, SymbolsShowPicturesMadeInTheBackgroundAndTypeIconsForTheR
   EXPECT_EQ(made.availableSizes().front(), QSize(64, 32));
   // A file that is no picture keeps its type's icon.
   EXPECT_FALSE(model->data(model->index(broken, 0), Qt::DecorationRole).isNull());
+}
+
+TEST_F(MainWindowTest, NoColumnHeadingIsCutInGerman) {
+  MainWindow german(options, MessageTable::Get(Language::kGerman), &interaction);
+  QTableView* view = german.file_view();
+  const QFontMetrics metrics(view->horizontalHeader()->font());
+  for (int column = 0; column < view->model()->columnCount(); ++column) {
+    if (view->isColumnHidden(column)) continue;
+    const QString heading = view->model()->headerData(column, Qt::Horizontal).toString();
+    EXPECT_GE(view->columnWidth(column), metrics.horizontalAdvance(heading) + 20)
+        << heading.toStdString();
+  }
 }
 
 TEST_F(MainWindowTest, ViewModesShareTheSelectionAndTheListMenuActs) {
