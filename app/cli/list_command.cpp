@@ -30,6 +30,7 @@ struct ListArgs {
   bool subfolders = false;
   std::string filter = "*.*";
   Format format = Format::kTsv;
+  bool natural = false;
 };
 
 // Keys of the columns in JSON, and the headings of the hidden ones in TSV.
@@ -43,6 +44,8 @@ std::optional<std::string> ParseArgs(std::span<const std::string> args, ListArgs
     const std::string& arg = args[i];
     if (arg == "--subfolders") {
       out.subfolders = true;
+    } else if (arg == "--natural") {
+      out.natural = true;
     } else if (arg == "--tsv") {
       out.format = Format::kTsv;
     } else if (arg == "--json") {
@@ -109,6 +112,7 @@ int RunList(std::span<const std::string> args, CliIo& io) {
   if (const auto error = ParseArgs(args, a)) return UsageError(io, kCommand, *error);
   if (!FolderExists(a.folder)) return Failure(io, "no such folder: " + a.folder);
   OptionStore options = OptionStore::ForCurrentUser();
+  if (a.natural) options.SetOverride("NaturalNameOrder", "Options", "1");
   AppState state;
   state.CurrentFilter = a.filter;
   TakeViewFlags(options, state);
@@ -135,7 +139,7 @@ int RunList(std::span<const std::string> args, CliIo& io) {
 }
 
 constexpr std::array<CommandForm, 1> kForms = {{
-    {"list DIR [--subfolders] [--filter \"*.ext\"] [--tsv|--json]",
+    {"list DIR [--subfolders] [--filter \"*.ext\"] [--natural] [--tsv|--json]",
      "print the rows the file list holds for DIR, with all eleven columns"},
 }};
 
@@ -144,17 +148,21 @@ constexpr std::string_view kDetails =
     "  --subfolders      walk the subfolders too (a folder that is hidden and\n"
     "                    system gives no rows, its subfolders do)\n"
     "  --filter \"*.ext\"  only files with this extension (case-insensitive)\n"
+    "  --natural         numbers in names in their natural order (\"photo 2\"\n"
+    "                    before \"photo 10\"), as the option NaturalNameOrder\n"
     "  --tsv             tab-separated, one heading line (the default); tabs,\n"
     "                    line ends and backslashes in texts are escaped\n"
     "  --json            an array of objects with the keys name, size, type,\n"
     "                    date, attributes, path, mediainfo, foldername,\n"
     "                    exif_date, bytes, extension\n"
     "\n"
-    "Rows come in name order without regard to case, folder after folder.\n"
+    "Rows come in the name order of your locale (LC_ALL, LC_COLLATE or LANG;\n"
+    "\"Ärger\" beside \"Apfel\"), letter case deciding only between names\n"
+    "that are otherwise equal, folder after folder, as the window lists them.\n"
     "The options ShowHiddenFiles, ShowSystemFiles, LoadOnlyFileName,\n"
-    "FileDateType and DateFormat apply. On a terminal a progress line shows\n"
-    "for fills that take a while; Ctrl-C stops the fill, prints the rows read\n"
-    "so far and exits with 1.\n";
+    "NaturalNameOrder, FileDateType and DateFormat apply. On a terminal a\n"
+    "progress line shows for fills that take a while; Ctrl-C stops the fill,\n"
+    "prints the rows read so far and exits with 1.\n";
 
 }  // namespace
 

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <span>
 #include <string>
 #include <string_view>
@@ -9,6 +10,7 @@
 #include <vector>
 
 #include "filelist/file_row.h"
+#include "filelist/name_order.h"
 #include "shell/message_table.h"
 
 namespace tarnwick {
@@ -45,6 +47,10 @@ class FileList {
   void Clear();
   // The `DateFormat` the date columns of this fill are shown in.
   void set_date_format(std::string format) { date_format_ = std::move(format); }
+  // The order of the name column's sort; without one, the user's locale
+  // order without natural numbers.
+  void set_name_order(std::shared_ptr<const NameOrder> order) { name_order_ = std::move(order); }
+  const NameOrder& name_order() const;
   // The language of the size column's text.
   void set_language(Language language) { language_ = language; }
   const std::string& date_format() const { return date_format_; }
@@ -82,8 +88,8 @@ class FileList {
 
   // --- Sorting (`MultiSortListView`): by the first column, ties by the next,
   // remaining ties keep their order. Sizes (1 and 9) sort by the number of
-  // bytes, the date column by its time stamp, the rest as texts without
-  // regard to case. An empty list of columns, or a column outside 0 to 10,
+  // bytes, the date column by its time stamp, the name column in the name
+  // order, the rest as texts without regard to case. An empty list of columns, or a column outside 0 to 10,
   // leaves the order. The columns are remembered for `RestoreSort`.
   void MultiSortListView(std::span<const SortColumn> columns);
   // Sorts by the last columns given, if any (after a fill).
@@ -97,6 +103,8 @@ class FileList {
  private:
   bool Valid(std::size_t row) const { return row < rows_.size(); }
   int CompareRows(const FileRow& a, const FileRow& b, int column) const;
+  // Each row's place in name order, for a sort by the name column.
+  std::vector<std::uint32_t> NameRanks() const;
 
   std::vector<FileRow> rows_;
   std::vector<std::string> folders_;
@@ -106,6 +114,7 @@ class FileList {
   std::string date_format_ = "dd.mm.yyyy";
   Language language_ = Language::kEnglish;
   std::vector<SortColumn> sort_columns_;
+  std::shared_ptr<const NameOrder> name_order_;
 };
 
 // The last part of a folder's path (column 7); the whole path for the root.

@@ -1,5 +1,6 @@
 // `MultiSortListView`: sorting the rows by columns.
 #include <algorithm>
+#include <numeric>
 
 #include "base/path_text.h"
 #include "filelist/attribute_text.h"
@@ -35,7 +36,7 @@ int FileList::CompareRows(const FileRow& a, const FileRow& b, int column) const 
   namespace fc = file_column;
   switch (column) {
     case fc::kName:
-      return CompareNames(a.name, b.name);
+      return name_order().Compare(a.name, b.name);
     case fc::kSize:
     case fc::kSizeBytes:
       return CompareValues(a.size, b.size);
@@ -63,6 +64,22 @@ int FileList::CompareRows(const FileRow& a, const FileRow& b, int column) const 
   }
 }
 
+const NameOrder& FileList::name_order() const {
+  if (name_order_) return *name_order_;
+  static const NameOrder user_order;
+  return user_order;
+}
+
+std::vector<std::uint32_t> FileList::NameRanks() const {
+  std::vector<std::string_view> names;
+  names.reserve(rows_.size());
+  for (const FileRow& row : rows_) names.push_back(row.name);
+  const std::vector<std::uint32_t> ranking = name_order().Ranking(names);
+  std::vector<std::uint32_t> ranks(rows_.size());
+  for (std::uint32_t place = 0; place < ranking.size(); ++place) ranks[ranking[place]] = place;
+  return ranks;
+}
+
 void FileList::MultiSortListView(std::span<const SortColumn> columns) {
   if (columns.empty()) return;
   if (!std::all_of(columns.begin(), columns.end(),
@@ -70,13 +87,23 @@ void FileList::MultiSortListView(std::span<const SortColumn> columns) {
     return;
   }
   sort_columns_.assign(columns.begin(), columns.end());
-  std::stable_sort(rows_.begin(), rows_.end(), [&](const FileRow& a, const FileRow& b) {
+  // Collation keys are made once per row, not once per comparison.
+  const bool by_name = std::any_of(columns.begin(), columns.end(), [](const SortColumn& c) {
+    return c.column == file_column::kName;
+  });
+  const std::vector<std::uint32_t> name_ranks = by_name ? NameRanks() : std::vector<std::uint32_t>();
+  std::vector<std::size_t> order(rows_.size());
+  std::iota(order.begin(), order.end(), std::size_t{0});
+  std::stable_sort(order.begin(), order.end(), [&](std::size_t x, std::size_t y) {
     for (const SortColumn& c : sort_columns_) {
-      const int order = CompareRows(a, b, c.column);
-      if (order != 0) return c.descending ? order > 0 : order < 0;
+      const int result = c.column == file_column::kName
+                             ? CompareValues(name_ranks[x], name_ranks[y])
+                             : CompareRows(rows_[x], rows_[y], c.column);
+      if (result != 0) return c.descending ? result > 0 : result < 0;
     }
     return false;
   });
+  ReorderRows(order);
 }
 
 void FileList::RestoreSort() {

@@ -78,9 +78,20 @@ bool DotEntry(const char* name) {
   return name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0'));
 }
 
+void SortByName(std::vector<FileRecord>& records, const NameOrder& order) {
+  std::vector<std::string_view> names;
+  names.reserve(records.size());
+  for (const FileRecord& record : records) names.push_back(record.name);
+  const std::vector<std::uint32_t> ranking = order.Ranking(names);
+  std::vector<FileRecord> sorted;
+  sorted.reserve(records.size());
+  for (std::uint32_t index : ranking) sorted.push_back(std::move(records[index]));
+  records = std::move(sorted);
+}
+
 }  // namespace
 
-FolderRead ReadFolder(const std::string& folder, TypeTextCache& types,
+FolderRead ReadFolder(const std::string& folder, TypeTextCache& types, const NameOrder& order,
                       const FolderReadStep& on_entry) {
   FolderRead read;
   DirHandle dir(::opendir(folder.empty() ? "." : folder.c_str()));
@@ -119,9 +130,7 @@ FolderRead ReadFolder(const std::string& folder, TypeTextCache& types,
       break;
     }
   }
-  std::sort(read.records.begin(), read.records.end(), [](const FileRecord& a, const FileRecord& b) {
-    return CompareNames(a.name, b.name) < 0;
-  });
+  SortByName(read.records, order);
   return read;
 }
 

@@ -11,6 +11,7 @@
 
 namespace tarnwick {
 
+class NameOrder;
 class TypeTextCache;
 
 // `FileRecord`: one directory entry as a folder read gives it.
@@ -40,9 +41,8 @@ struct FolderRead {
   // says why (70 permission denied, 76 path not found).
   bool opened = false;
   FileStatus open_error;
-  // The entries in the order the folder lists them: by name without regard
-  // to case, as a Windows folder does (a Linux folder comes in no useful
-  // order).
+  // The entries in name order (a Linux folder comes in no useful order of
+  // its own).
   std::vector<FileRecord> records;
   // The read stopped because `on_entry` asked so.
   bool stopped = false;
@@ -61,7 +61,8 @@ using FolderReadStep = std::function<bool(std::size_t count)>;
 // `GetFiles`: reads the entries of `folder` ("." and ".." left out). Links
 // are followed; a link to nothing is read as the link itself. An entry that
 // vanishes while it is read is left out.
-FolderRead ReadFolder(const std::string& folder, TypeTextCache& types,
+// The records come in `order`.
+FolderRead ReadFolder(const std::string& folder, TypeTextCache& types, const NameOrder& order,
                       const FolderReadStep& on_entry);
 
 }  // namespace tarnwick

@@ -56,7 +56,7 @@ FolderRead FileListLoader::GetFiles(const std::string& folder) {
   const std::string status =
       std::string(context_.messages.Text("filelist.wait_reading_directory")) + " '" +
       EnsureTrailingSeparator(folder) + "' [";
-  FolderRead read = ReadFolder(folder, types_, [&](std::size_t count) {
+  FolderRead read = ReadFolder(folder, types_, *name_order_, [&](std::size_t count) {
     if (StatusDue(count)) {
       context_.interaction.ShowStatus(StatusArea::kStatusLine,
                                       status + std::to_string(count) + "]");
@@ -92,15 +92,24 @@ void FileListLoader::ReportReadError(const std::string& folder, const FolderRead
           read.error.description);
 }
 
+void FileListLoader::BeginFill(FileList& list) {
+  list.Clear();
+  list.set_language(context_.messages.language());
+  list.set_date_format(vb::LCase(context_.options.GetOption("DateFormat", kOptions, "dd.mm.yyyy")));
+  const bool natural = context_.options.GetOption("NaturalNameOrder", kOptions, "0") == "1";
+  if (!name_order_ || name_order_->natural_numbers() != natural) {
+    name_order_ = std::make_shared<const NameOrder>(NameOrderChoice{.natural_numbers = natural, .locale = {}});
+  }
+  list.set_name_order(name_order_);
+  extensions_.Clear();
+}
+
 bool FileListLoader::FillListView(FileList& list, const FillRequest& request) {
   stopped_ = false;
   // A cancel left over from earlier work (a question answered No, an Esc
   // before the fill) must not stop this fill at its first file.
   context_.state.CancelRun = false;
-  list.Clear();
-  list.set_language(context_.messages.language());
-  list.set_date_format(vb::LCase(context_.options.GetOption("DateFormat", kOptions, "dd.mm.yyyy")));
-  extensions_.Clear();
+  BeginFill(list);
   key_still_down_ = false;
   const std::string folder = AbsolutePathName(request.folder, WorkingFolder());
   const FolderRead top = GetFiles(folder);
@@ -139,10 +148,7 @@ void FileListLoader::WalkSubfolders(FileList& list, const std::string& folder,
 
 std::vector<std::string> FileListLoader::FillListWithFiles(FileList& list,
                                                            std::span<const std::string> paths) {
-  list.Clear();
-  list.set_language(context_.messages.language());
-  list.set_date_format(vb::LCase(context_.options.GetOption("DateFormat", kOptions, "dd.mm.yyyy")));
-  extensions_.Clear();
+  BeginFill(list);
   std::vector<std::string> absolute;
   std::vector<std::string> folders;  // in the order first named
   std::map<std::string, std::set<std::string>> wanted;

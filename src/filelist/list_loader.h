@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <span>
 #include <string>
 #include <utility>
@@ -27,9 +28,9 @@ struct FillRequest {
 // Fills a FileList from the disk. One loader lives as long as the list; it
 // keeps the type text cache and the items of the extension box between fills.
 //
-// Rows come in the order the folders list their names (without regard to
-// case), folder after folder, the subfolders depth first in the same order;
-// a sort chosen before (`MultiSortListView`) is applied again at the end.
+// Rows come in name order (NameOrder: the user's locale, numbers in their
+// natural order with the option `NaturalNameOrder`), folder after folder,
+// the subfolders depth first in the same order; a sort chosen before (`MultiSortListView`) is applied again at the end.
 // Esc (or Ctrl-C) through `Interaction::PollCancel` stops a fill; the rows read
 // so far stay, and the log gets the line "!User terminated filling file list
 // with ESC".
@@ -63,6 +64,8 @@ class FileListLoader {
   std::vector<std::string> Extensions() const { return extensions_.Items(); }
 
  private:
+  // Empties the list and takes the options a fill shows its rows with.
+  void BeginFill(FileList& list);
   // `GetFiles`, with its status texts, the Esc test and the error report.
   // Returns the read; `opened` is false when nothing could be read.
   FolderRead GetFiles(const std::string& folder);
@@ -80,6 +83,8 @@ class FileListLoader {
   // A key press lasts: when a folder read stops on Esc, the next test sees
   // the same press again.
   bool key_still_down_ = false;
+  // The name order of the last fill, shared with the list for its sorts.
+  std::shared_ptr<const NameOrder> name_order_;
   // Esc stopped the fill in hand.
   bool stopped_ = false;
   FileStatus folder_error_;

@@ -32,6 +32,8 @@ constexpr MessageEntry kEntries[] = {
     {0, "options.show_mediainfo", "Show mediainfo", "Medieninfo anzeigen"},
     {0, "options.show_tooltips", "Show tooltips from files", "Tooltips zu Dateien anzeigen"},
     {0, "options.load_only_file_names", "Load only filenames", "Nur Dateinamen laden"},
+    {0, "options.natural_name_order", "Numbers in names by their value (2 before 10)",
+     "Zahlen in Namen nach ihrem Wert ordnen (2 vor 10)"},
     {0, "options.check_not_for_new_files", "Do not refresh file list when new files in folder",
      "Dateiliste bei neuen Dateien im Ordner nicht aktualisieren"},
     {0, "options.jump_to_last_selected", "Jump to last selected file position after renaming",

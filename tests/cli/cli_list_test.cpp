@@ -92,6 +92,26 @@ TEST_F(CliListTest, JsonObjectsWithEscapedTexts) {
   EXPECT_EQ(List({"--json", "--filter", "*.none"}).out, "[]\n");
 }
 
+TEST_F(CliListTest, NameOrderFollowsTheLocaleAndNaturalNumbersAreAskedFor) {
+  for (const char* name : {"Zug 10.txt", "Zug 9.txt", "Öl.txt", "Ofen.txt"}) Write(name, "");
+  const auto names = [](const CliResult& result) {
+    std::vector<std::string> first;
+    for (const std::string& line : Lines(result.out)) first.push_back(line.substr(0, line.find('\t')));
+    return first;
+  };
+  cli_.SetEnv("LC_ALL", "de_DE.UTF-8");
+  const CliResult german = List({"--filter", "*.txt"});
+  ASSERT_EQ(german.exit_code, 0) << german.err;
+  EXPECT_THAT(names(german), ElementsAre("Name", "b.txt", "Ofen.txt", "Öl.txt", "Zug 10.txt",
+                                         "Zug 9.txt"));
+  EXPECT_THAT(names(List({"--filter", "*.txt", "--natural"})),
+              ElementsAre("Name", "b.txt", "Ofen.txt", "Öl.txt", "Zug 9.txt", "Zug 10.txt"));
+  // Swedish keeps Ö after Z.
+  cli_.SetEnv("LC_ALL", "sv_SE.UTF-8");
+  EXPECT_THAT(names(List({"--filter", "*.txt"})),
+              ElementsAre("Name", "b.txt", "Ofen.txt", "Zug 10.txt", "Zug 9.txt", "Öl.txt"));
+}
+
 TEST_F(CliListTest, WrongCalls) {
   EXPECT_EQ(cli_.Run({"list"}).exit_code, 2);
   EXPECT_EQ(List({"--bogus"}).exit_code, 2);

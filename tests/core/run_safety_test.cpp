@@ -116,7 +116,9 @@ TEST_F(RunSafetyTest, ASecondProcessTakingTheTargetNamesNeverLosesAFile) {
   // Every file the racer made is still there with its own content.
   EXPECT_EQ(static_cast<int>(Names().size()), kFiles + racer_files);
   // A file that lost the race was reported as a taken name, never moved.
-  if (result.failed > 0) EXPECT_NE(Log().find("58: File already exists"), std::string::npos);
+  if (result.failed > 0) {
+    EXPECT_NE(Log().find("58: File already exists"), std::string::npos);
+  }
 }
 
 TEST_F(RunSafetyTest, ReadOnlyFoldersUnreadableAndVanishedFilesAreReportedAndTheRunGoesOn) {

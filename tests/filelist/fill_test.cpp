@@ -51,13 +51,24 @@ TEST_F(FillTest, TypeAndSizeTextsFollowTheLanguageOfTheMessages) {
   EXPECT_EQ(list.Text(1, fc::kSize), "5 Bytes");
 }
 
-TEST_F(FillTest, NamesDifferingOnlyInCaseKeepAFixedOrder) {
-  Write("Zeta");
-  Write("zeta");
-  Write("ÄRGER");
-  Write("ärger2");
+TEST_F(FillTest, RowsComeInTheNameOrderOfTheLocaleWithNaturalNumbersAsAnOption) {
+  for (const char* name : {"Zeta", "zeta", "ÄRGER", "ärger2", "Apfel", "photo 10", "photo 2"}) {
+    Write(name);
+  }
+  // Umlauts beside their letter; case decides only between otherwise equal
+  // names, and the same way on every fill.
   Fill();
-  EXPECT_THAT(Names(), ElementsAre("Zeta", "zeta", "ÄRGER", "ärger2"));
+  EXPECT_THAT(Names(), ElementsAre("Apfel", "ÄRGER", "ärger2", "photo 10", "photo 2", "zeta",
+                                   "Zeta"));
+  SetOption("NaturalNameOrder", "1");
+  Fill();
+  EXPECT_THAT(Names(), ElementsAre("Apfel", "ÄRGER", "ärger2", "photo 2", "photo 10", "zeta",
+                                   "Zeta"));
+  // A sort by the name column afterwards keeps to the same order.
+  const SortColumn by_name[] = {{file_column::kName, true}};
+  list_.MultiSortListView(by_name);
+  EXPECT_THAT(Names(), ElementsAre("Zeta", "zeta", "photo 10", "photo 2", "ärger2", "ÄRGER",
+                                   "Apfel"));
 }
 
 TEST_F(FillTest, EmptyFolderGivesNoRowsAndOnlyAllFiles) {

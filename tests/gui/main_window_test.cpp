@@ -271,7 +271,7 @@ TEST_F(MainWindowTest, NewNamesThatCollideAreCountedAndTheTestModeTouchesNothing
 
   interaction.Then(StartRenamingChoice::kTest);
   interaction.SetDefault(QuestionKind::kMessageBox, Answer::kNo);
-  interaction.SetDefault(QuestionKind::kFileExists, FileExistsAnswer{FileExistsChoice::kSkip});
+  interaction.SetDefault(QuestionKind::kFileExists, FileExistsAnswer{FileExistsChoice::kSkip, {}});
   window->StartRenaming();
   EXPECT_EQ(interaction.asked().front().kind, QuestionKind::kStartRenaming);
   EXPECT_EQ(interaction.asked().front().text, "4 selected files, 4 collide");
