@@ -100,6 +100,14 @@ std::unique_ptr<QDialog> MakeTestResults(DialogShotContext& c) {
   return std::make_unique<TestResultsDialog>(rows, c.messages, c.window.interaction(), &c.window);
 }
 
+// What undoing the newest run of the batch FILE would rename, in the test
+// result list, as Tools > Undo last run shows it first.
+std::unique_ptr<QDialog> MakeUndoPreview(DialogShotContext& c) {
+  const std::string batch = c.file.empty() ? c.window.CurrentUndoBatch() : c.file;
+  return std::make_unique<TestResultsDialog>(MainWindow::UndoPreview(batch), c.messages,
+                                             c.window.interaction(), &c.window);
+}
+
 // The editor with FILE loaded when it is a playlist; otherwise with FILE's
 // folder's music files, or empty.
 std::unique_ptr<QDialog> MakePlaylistEditor(DialogShotContext& c) {
@@ -177,6 +185,8 @@ std::span<const DialogShot> DialogShots() {
       {"manual-rename", "a name edited by hand during a run (FILE: the row)", MakeManualRename},
       {"save-settings", "saving a settings file (FILE: the preset path)", MakeSaveSettings},
       {"test-results", "the result list of a test run (FILE: the row)", MakeTestResults},
+      {"undo-preview", "what undoing the newest run would rename (FILE: an undo batch)",
+       MakeUndoPreview},
       {"copy-move", "copying or moving the selected files", MakeCopyMove},
       {"rename-from-text", "renaming from a text file (FILE: the text file of names)",
        MakeRenameFromText},

@@ -123,6 +123,9 @@ class MainWindow : public QMainWindow, public ProgressView {
   // Takes the newest run of the undo batch back: what it would do first, in
   // the result list, then a question, then the moves, never overwriting.
   void UndoLastRun();
+  // The renames the newest run of `batch` would take back: present name,
+  // the name it gets back, folder.
+  static std::vector<TestResultRow> UndoPreview(const std::string& batch);
   // The undo batch runs are written to now.
   std::string CurrentUndoBatch() const;
   void EditActionOrder();

@@ -162,6 +162,16 @@ std::string MainWindow::CurrentUndoBatch() const {
   return JoinPath(UndoFolderPath(options_, log_state_), name);
 }
 
+std::vector<TestResultRow> MainWindow::UndoPreview(const std::string& batch) {
+  std::vector<TestResultRow> preview;
+  RunUndoBatch(batch, {.dry_run = true, .runs = 1}, [&](const UndoStep& step) {
+    if (step.outcome != UndoStepOutcome::kWouldDo || step.line.command != "move") return;
+    preview.push_back({LastPathElement(step.line.new_path), LastPathElement(step.line.old_path),
+                       ParentFolder(step.line.new_path)});
+  });
+  return preview;
+}
+
 void MainWindow::UndoLastRun() {
   const std::string batch = CurrentUndoBatch();
   const std::string title(messages_.Text("main.menu.undo_last_run"));
@@ -171,12 +181,7 @@ void MainWindow::UndoLastRun() {
                                Buttons::kOk, MessageIcon::kInformation, Topic::kNotice});
     return;
   }
-  std::vector<TestResultRow> preview;
-  RunUndoBatch(batch, {.dry_run = true, .runs = 1}, [&](const UndoStep& step) {
-    if (step.outcome != UndoStepOutcome::kWouldDo || step.line.command != "move") return;
-    preview.push_back({LastPathElement(step.line.new_path), LastPathElement(step.line.old_path),
-                       ParentFolder(step.line.new_path)});
-  });
+  const std::vector<TestResultRow> preview = UndoPreview(batch);
   interaction_->ShowTestResults(preview);
   const Answer answer = interaction_->ShowMessage(
       {title, FillMessage(messages_.Text("undo.last_run_question"), {std::to_string(preview.size())}),
