@@ -1,7 +1,7 @@
 #include "filelist/name_order.h"
 
-#include <unicode/uiter.h>
 #include <unicode/ucol.h>
+#include <unicode/uiter.h>
 
 #include <algorithm>
 #include <cstdlib>
@@ -103,9 +103,9 @@ std::string NameOrder::SortKey(std::string_view name) const {
 int NameOrder::Compare(std::string_view a, std::string_view b) const {
   if (collator_->handle != nullptr) {
     UErrorCode status = U_ZERO_ERROR;
-    const UCollationResult result = ucol_strcollUTF8(
-        collator_->handle, a.data(), static_cast<std::int32_t>(a.size()), b.data(),
-        static_cast<std::int32_t>(b.size()), &status);
+    const UCollationResult result =
+        ucol_strcollUTF8(collator_->handle, a.data(), static_cast<std::int32_t>(a.size()), b.data(),
+                         static_cast<std::int32_t>(b.size()), &status);
     if (U_SUCCESS(status) && result != UCOL_EQUAL) return result == UCOL_LESS ? -1 : 1;
   }
   return CompareNames(a, b);

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <optional>
+#include <span>
 
 #include "platform/file_status.h"
 
@@ -17,7 +18,7 @@ namespace tarnwick {
 FileStatus CopyByteRange(const std::filesystem::path& source, std::uint64_t first,
                          std::uint64_t length, const std::filesystem::path& target, bool replace);
 
-// A file built by appending whole files, under a hidden temporary name in the
+// A file built by appending whole files or bytes, under a hidden temporary name in the
 // folder of its final name. Nothing appears under the final name until
 // Commit; a file that is neither committed nor kept is removed at the end of
 // the object, so a failed or cancelled merge leaves the folder as it was.
@@ -32,6 +33,8 @@ class StagedFile {
   FileStatus Open(const std::filesystem::path& final_path);
   // Appends the whole of `source`, streamed, never held in memory.
   FileStatus Append(const std::filesystem::path& source);
+  // Appends bytes held in memory.
+  FileStatus Write(std::span<const std::uint8_t> bytes);
   std::uint64_t size() const { return size_; }
   // Puts the file under its final name: replacing a file there only with
   // `replace`, else failing with 58. With `flush` its data reach the disk

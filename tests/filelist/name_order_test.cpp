@@ -57,7 +57,8 @@ TEST(NameOrderTest, CaseDecidesOnlyBetweenOtherwiseEqualNamesAndTheOrderIsTotal)
   // A name longer than one piece of collation key.
   const std::string long_a(700, 'a');
   EXPECT_LT(order.Compare(long_a + "a", long_a + "b"), 0);
-  EXPECT_THAT(Ordered(order, {long_a + "b", long_a + "a"}), ElementsAre(long_a + "a", long_a + "b"));
+  EXPECT_THAT(Ordered(order, {long_a + "b", long_a + "a"}),
+              ElementsAre(long_a + "a", long_a + "b"));
 }
 
 // Sets an environment variable for the length of a test.

@@ -109,6 +109,20 @@ FileStatus StagedFile::Append(const std::filesystem::path& source) {
   return FileStatus::Success();
 }
 
+FileStatus StagedFile::Write(std::span<const std::uint8_t> bytes) {
+  if (fd_ < 0) return FileStatus::Error(vb_error::kBadFileName);
+  std::size_t done = 0;
+  while (done < bytes.size()) {
+    const ssize_t written = ::pwrite(fd_, bytes.data() + done, bytes.size() - done,
+                                     static_cast<off_t>(size_ + done));
+    if (written < 0 && errno == EINTR) continue;
+    if (written <= 0) return posix::StatusFromErrno(written < 0 ? errno : ENOSPC, final_path_);
+    done += static_cast<std::size_t>(written);
+  }
+  size_ += bytes.size();
+  return FileStatus::Success();
+}
+
 FileStatus StagedFile::Commit(bool replace, bool flush) {
   if (fd_ < 0) return FileStatus::Error(vb_error::kBadFileName);
   if (::fchmod(fd_, NewFileMode()) != 0 || (flush && ::fsync(fd_) != 0)) {
