@@ -2,7 +2,12 @@
 
 // Decodes JPEG bytes with libjpeg-turbo, the oracle the encoder's output is
 // checked against.
+// jpeglib.h needs size_t and FILE declared before it.
+// clang-format off
+#include <cstddef>
+#include <cstdio>
 #include <jpeglib.h>
+// clang-format on
 
 #include <csetjmp>
 #include <cstdint>
