@@ -26,6 +26,7 @@ extern const Command kSplitCommand;
 extern const Command kMergeCommand;
 extern const Command kShredCommand;
 extern const Command kChecksumCommand;
+extern const Command kJpegCommand;
 
 std::span<const Command> AllCommands() {
   static const std::array kCommands = {
@@ -34,6 +35,7 @@ std::span<const Command> AllCommands() {
       kTagsCommand,    kExifCommand,    kWmaCommand,       kReportCommand,
       kPlaylistCommand, kCopyCommand,     kMoveCommand,      kRenameFromTextCommand,
       kSplitCommand,   kMergeCommand,   kShredCommand,     kChecksumCommand,
+      kJpegCommand,
   };
   return kCommands;
 }

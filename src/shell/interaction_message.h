@@ -35,6 +35,7 @@ enum class Topic {
   kVisitDownloadPage,      // "Do you want to visit the download page?"
   kConfirmSecureDelete,    // "Are you sure you want to secure delete the selected files? ..."
   kRemoveWriteProtection,  // "The file is write-protected. Do you want to delete it anyway?"
+  kOverwritePictures,      // "If you continue you will overwrite all exisiting files, ..."
   kOther,                  // anything else
 };
 

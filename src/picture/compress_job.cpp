@@ -1,0 +1,235 @@
+// Compress picture files to JPEG: each picture read, turned, mirrored and
+// written by our own encoder.
+#include "picture/compress_job.h"
+
+#include "base/path_text.h"
+#include "base/vb_error.h"
+#include "core/file_date_time.h"
+#include "filelist/file_list.h"
+#include "persist/option_store.h"
+#include "picture/exif_orientation.h"
+#include "picture/image_buffer.h"
+#include "picture/jpeg_encoder.h"
+#include "picture/picture_file.h"
+#include "platform/file_pieces.h"
+#include "platform/files.h"
+#include "shell/interaction.h"
+#include "shell/message_table.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr const char* kOptions = "Options";
+
+std::string BaseName(const std::string& name) {
+  const std::size_t dot = name.rfind('.');
+  return dot == std::string::npos || dot == 0 ? name : name.substr(0, dot);
+}
+
+// The picture as the dialogue wants it turned and mirrored.
+cImage Oriented(cImage image, const CompressChoices& choices) {
+  switch (choices.rotation) {
+    case 1:
+      image = image.Rotate(-90);
+      break;
+    case 2:
+      image = image.Rotate(90);
+      break;
+    case 3:
+      image = image.Rotate(180);
+      break;
+    default:
+      break;
+  }
+  if (choices.mirror == 1) image = image.Mirror(false);
+  if (choices.mirror == 2) image = image.Mirror(true);
+  return image;
+}
+
+// The new file under `target`, flushed before it takes the name, replacing
+// whatever had it.
+FileStatus WriteReplacing(const std::vector<std::uint8_t>& bytes, const std::string& target) {
+  StagedFile file;
+  FileStatus status = file.Open(target);
+  if (status.ok()) status = file.Write(bytes);
+  if (status.ok()) status = file.Commit(/*replace=*/true, /*flush=*/true);
+  return status;
+}
+
+class Compressor {
+ public:
+  Compressor(ToolJob& job, const CompressChoices& choices) : job_(job), choices_(choices) {
+    if (choices.greyscale) {
+      encoder_.SetSamplingFrequencies(1, 1, 0, 0, 0, 0);
+    } else {
+      encoder_.SetSamplingFrequencies(choices.h, choices.v, 1, 1, 1, 1);
+    }
+    encoder_.SetQuality(choices.quality);
+    encoder_.SetComment(choices.comment);
+    use_exif_date_ = job.env().options.GetOption("UseEXIFDate", kOptions, "0") == "1";
+  }
+
+  void Compress(std::size_t row) {
+    const FileList& list = job_.env().list;
+    const std::string source = list.Path(row);
+    const LoadedPicture loaded = LoadPicture(source);
+    if (!loaded.ok()) {
+      Fail(source, loaded.error);
+      return;
+    }
+    cImage image;
+    if (!image.CopyPicture(loaded.picture, 24)) {
+      Fail(source, "the picture is too large");
+      return;
+    }
+    image = Oriented(std::move(image), choices_);
+    std::vector<std::uint8_t> exif = choices_.keep_exif ? loaded.exif : std::vector<std::uint8_t>();
+    // Turned or flipped here, the pixels stand as they should; a viewer must
+    // not turn them again by the camera's tag.
+    if (choices_.rotation != 0 || choices_.mirror != 0) ResetExifOrientation(exif);
+    encoder_.SetExifBlock(std::move(exif));
+    if (encoder_.SampleHDC(image.ToRgb()) != 0) {
+      Fail(source, "the picture is too large for a JPEG");
+      return;
+    }
+    const std::string folder =
+        choices_.destination.empty() ? std::string(list.Folder(row)) : choices_.destination;
+    const std::string base = BaseName(list.Text(row, file_column::kName));
+    const std::optional<std::string> target = choices_.overwrite
+                                                  ? Replace(source, JoinPath(folder, base + ".jpg"))
+                                                  : SaveBeside(folder, base);
+    if (!target) return;
+    SetDates(row, *target);
+    job_.LogTool(job_.Text("picture.compress_title"), "\"" + source + "\" -> \"" + *target + "\"");
+    job_.Done();
+  }
+
+ private:
+  void Fail(const std::string& path, const std::string& why) {
+    job_.Failed(path, why);
+    job_.LogTool(job_.Text("picture.compress_title"),
+                 job_.Text("run.log_error") + " \"" + path + "\" (" + why + ")");
+  }
+
+  // The new file takes the target's name (an older file of that name goes),
+  // then the original is removed.
+  std::optional<std::string> Replace(const std::string& source, const std::string& target) {
+    std::vector<std::uint8_t> bytes;
+    try {
+      bytes = encoder_.Encode();
+    } catch (const VbError& error) {
+      Fail(source, std::to_string(error.number()) + ": " + error.description());
+      return std::nullopt;
+    }
+    if (const FileStatus status = WriteReplacing(bytes, target); !status.ok()) {
+      Fail(source, std::to_string(status.number) + ": " + status.description);
+      return std::nullopt;
+    }
+    if (source != target) {
+      if (const FileStatus status = DeleteFile(source); !status.ok()) {
+        Fail(source, std::to_string(status.number) + ": " + status.description);
+      }
+    }
+    return target;
+  }
+
+  // A new file beside the original, never over another.
+  std::optional<std::string> SaveBeside(const std::string& folder, const std::string& base) {
+    std::string target = JoinPath(folder, base + ".jpg");
+    try {
+      for (;;) {
+        if (FileExists(target)) {
+          target = UniqueCopyName(folder, base, ".jpg", copy_counter_, job_.env().messages);
+        }
+        // A file that appeared since the test: the next free name.
+        if (encoder_.SaveFile(target) != 2) return target;
+      }
+    } catch (const VbError& error) {
+      Fail(target, std::to_string(error.number()) + ": " + error.description());
+      return std::nullopt;
+    }
+  }
+
+  void SetDates(std::size_t row, const std::string& target) {
+    const RenameRunEnv& env = job_.env();
+    const FileDateEnv dates{env.options, env.interaction, env.messages, env.media};
+    try {
+      if (env.options.GetOption("KeepOldFiledate", kOptions, "0") == "1") {
+        ChangeFileDateAndTimeKeepOld(dates, target, env.list.Text(row, file_column::kDate));
+      }
+      if (use_exif_date_) ChangeFileDateAndTimeJPG(dates, target);
+    } catch (const VbError& error) {
+      job_.LogTool(
+          job_.Text("picture.compress_title"),
+          "\"" + target + "\": " + std::to_string(error.number()) + ": " + error.description());
+    }
+  }
+
+  ToolJob& job_;
+  const CompressChoices& choices_;
+  cJPEG encoder_;
+  bool use_exif_date_ = false;
+  // `UniqueCopyName`'s counter: from 1 at the job's start.
+  int copy_counter_ = 1;
+};
+
+}  // namespace
+
+std::vector<std::string> SubsamplingItems(const MessageTable& messages) {
+  std::vector<std::string> items = {"1:1  ", "1:2", "2:1", "2:2  ", "1:3", "3:1", "2:3", "3:2",
+                                    "3:3",   "1:4", "4:1", "2:4",   "4:2", "3:4", "4:3", "4:4  "};
+  items[0] += messages.Text("picture.subsample_max_quality");
+  items[kDefaultSubsamplingItem] += messages.Text("picture.subsample_default");
+  return items;
+}
+
+std::pair<int, int> SubsamplingFactors(const std::string& item) {
+  if (item.size() < 3 || item[0] < '1' || item[0] > '4' || item[2] < '1' || item[2] > '4') {
+    return {2, 2};
+  }
+  return {item[0] - '0', item[2] - '0'};
+}
+
+std::string UniqueCopyName(const std::string& folder, const std::string& name,
+                           const std::string& extension, int& counter,
+                           const MessageTable& messages) {
+  const std::string part(messages.Text("picture.copy_name_part"));
+  const auto candidate = [&] {
+    return JoinPath(folder, name + " " + part + "_" + std::to_string(counter) + ")" + extension);
+  };
+  while (FileExists(candidate())) ++counter;
+  return candidate();
+}
+
+ToolJobResult CompressToJpeg(const RenameRunEnv& env, const CompressChoices& choices) {
+  const MessageTable& messages = env.messages;
+  if (choices.overwrite) {
+    const Answer answer = env.interaction.ShowMessage(
+        {std::string(messages.Text("picture.overwrite_title")),
+         std::string(messages.Text("picture.overwrite_question")), Buttons::kYesNo,
+         MessageIcon::kQuestion, Topic::kOverwritePictures});
+    if (answer != Answer::kYes) {
+      ToolJobResult not_confirmed;
+      not_confirmed.refused = true;
+      return not_confirmed;
+    }
+  }
+  ToolJob job(env);
+  Compressor compressor(job, choices);
+  for (std::size_t i = 0; i < job.total(); ++i) {
+    if (!job.BeginFile(i)) break;
+    compressor.Compress(job.rows()[i]);
+    job.EndFile(i);
+  }
+  job.Finish(choices.overwrite);
+  const ToolJobResult& result = job.result();
+  if (result.failed > 0) {
+    env.interaction.ShowMessage({std::string(messages.Text("picture.compress_title")),
+                                 std::to_string(result.failed) + " " +
+                                     std::string(messages.Text("picture.files_not_processed")),
+                                 Buttons::kOk, MessageIcon::kExclamation, Topic::kNotice});
+  }
+  return result;
+}
+
+}  // namespace tarnwick
