@@ -16,6 +16,7 @@
 #include <QTimeEdit>
 #include <QVBoxLayout>
 
+#include "dialog_parts.h"
 #include "qt_text.h"
 
 namespace tarnwick::gui {
@@ -25,12 +26,6 @@ constexpr const char* kAmountNames[6] = {"txtDays",  "txtMonths",  "txtYears",
                                          "txtHours", "txtMinutes", "txtSeconds"};
 constexpr const char* kAmountKeys[6] = {"copymove.days",  "copymove.months",  "copymove.years",
                                         "copymove.hours", "copymove.minutes", "copymove.seconds"};
-
-QCheckBox* Tick(const MessageTable& messages, const char* key, const char* name, QWidget* parent) {
-  auto* tick = new QCheckBox(Msg(messages, key), parent);
-  tick->setObjectName(name);
-  return tick;
-}
 
 }  // namespace
 

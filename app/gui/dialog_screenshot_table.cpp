@@ -5,24 +5,25 @@
 #include <filesystem>
 #include <map>
 
-#include "dialog_screenshot.h"
-#include "main_window.h"
-#include "playlist/playlist_rows.h"
-#include "qt_text.h"
+#include "compress_dialog.h"
 #include "copy_move_dialog.h"
+#include "dialog_screenshot.h"
+#include "log_viewer.h"
+#include "main_window.h"
 #include "options_dialog.h"
 #include "pattern_picker_dialog.h"
-#include "rename_text_dialog.h"
-#include "log_viewer.h"
-#include "report_window.h"
-#include "split_merge_dialogs.h"
-#include "tools/checksum_report.h"
+#include "playlist/playlist_rows.h"
 #include "playlist_dialog.h"
+#include "qt_text.h"
+#include "rename_text_dialog.h"
+#include "report_window.h"
 #include "run_dialogs.h"
 #include "save_settings_dialog.h"
 #include "shell/scripted_interaction.h"
 #include "sort_order_dialog.h"
+#include "split_merge_dialogs.h"
 #include "test_results_dialog.h"
+#include "tools/checksum_report.h"
 
 namespace tarnwick::gui {
 namespace {
@@ -108,11 +109,18 @@ std::unique_ptr<QDialog> MakeUndoPreview(DialogShotContext& c) {
                                              c.window.interaction(), &c.window);
 }
 
+// Compressing to JPEG, with FILE (a picture) in the preview.
+std::unique_ptr<QDialog> MakeCompress(DialogShotContext& c) {
+  return std::make_unique<CompressDialog>(
+      c.file.empty() ? std::string() : std::filesystem::absolute(c.file).string(), c.messages,
+      c.window.interaction(), &c.window);
+}
+
 // The editor with FILE loaded when it is a playlist; otherwise with FILE's
 // folder's music files, or empty.
 std::unique_ptr<QDialog> MakePlaylistEditor(DialogShotContext& c) {
-  auto editor = std::make_unique<PlaylistDialog>(c.options, c.messages, c.window.interaction(),
-                                                 &c.window);
+  auto editor =
+      std::make_unique<PlaylistDialog>(c.options, c.messages, c.window.interaction(), &c.window);
   if (IsPlaylistName(c.file)) {
     editor->LoadFile(std::filesystem::absolute(c.file).string());
   } else if (!c.file.empty()) {
@@ -124,16 +132,16 @@ std::unique_ptr<QDialog> MakePlaylistEditor(DialogShotContext& c) {
 }
 
 std::unique_ptr<QDialog> MakeCopyMove(DialogShotContext& c) {
-  auto dialog = std::make_unique<CopyMoveDialog>(c.options, c.messages, c.window.interaction(),
-                                                 &c.window);
+  auto dialog =
+      std::make_unique<CopyMoveDialog>(c.options, c.messages, c.window.interaction(), &c.window);
   if (dialog->target_field()->text().isEmpty()) dialog->target_field()->setText(Q(FolderOf(c)));
   return dialog;
 }
 
 // FILE as the log, or the window's own log.
 std::unique_ptr<QDialog> MakeLogViewer(DialogShotContext& c) {
-  const std::string path =
-      c.file.empty() ? RunLog(c.window.env()).LogFilePath() : std::filesystem::absolute(c.file).string();
+  const std::string path = c.file.empty() ? RunLog(c.window.env()).LogFilePath()
+                                          : std::filesystem::absolute(c.file).string();
   return std::make_unique<LogViewer>(path, c.messages, &c.window);
 }
 
@@ -194,6 +202,8 @@ std::span<const DialogShot> DialogShots() {
       {"split", "splitting the selected files", MakeSplit},
       {"merge", "merging the selected files (FILE: the first of them)", MakeMerge},
       {"checksum-report", "the SHA256 report of FILE's folder", MakeChecksumReport},
+      {"compress-jpeg", "compressing pictures to JPEG (FILE: the picture of the preview)",
+       MakeCompress},
       {"playlist-editor", "the playlist editor (FILE: a playlist, or a file of a music folder)",
        MakePlaylistEditor},
   };

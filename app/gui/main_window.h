@@ -120,6 +120,8 @@ class MainWindow : public QMainWindow, public ProgressView {
   void MergeSelectedFiles();
   void SecureDeleteSelectedFiles();
   void ShowChecksums(DigestKind kind);
+  // Compress picture files to JPEG: the dialogue, then the job.
+  void CompressPictures();
   // Takes the newest run of the undo batch back: what it would do first, in
   // the result list, then a question, then the moves, never overwriting.
   void UndoLastRun();
@@ -216,7 +218,8 @@ class MainWindow : public QMainWindow, public ProgressView {
   void AfterJob();
   void ShowRunSummary(const RenameRunResult& result);
   // The files a tool failed on, in a box; nothing when none failed.
-  void ShowToolFailures(const ToolJobResult& result);
+  // The failed files of a tool job, named, under the title of `title_key`.
+  void ShowToolFailures(const ToolJobResult& result, const char* title_key = "copymove.title");
   void ViewSelectionToList();
   void ListSelectionToView();
   void RestartNewNames();

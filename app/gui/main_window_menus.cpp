@@ -1,23 +1,23 @@
 // The menus of the main window, and closing it.
 #include <QCloseEvent>
-#include <algorithm>
-#include <cstdlib>
 #include <QDesktopServices>
 #include <QMenuBar>
 #include <QTableView>
 #include <QUrl>
+#include <algorithm>
+#include <cstdlib>
 
 #include "desktop_integration.h"
 #include "file_list_model.h"
 #include "filelist/column_headings.h"
 #include "main_window.h"
-#include "persist/log_options.h"
-#include "platform/files.h"
 #include "options_dialog.h"
 #include "pattern_picker_dialog.h"
-#include "playlist_dialog.h"
 #include "persist/log_file.h"
+#include "persist/log_options.h"
 #include "persist/option_store.h"
+#include "platform/files.h"
+#include "playlist_dialog.h"
 #include "qt_text.h"
 #include "startup/startup.h"
 #include "window_host.h"
@@ -86,36 +86,44 @@ void MainWindow::BuildMenus() {
   tools->addSeparator();
   tools->addAction(Msg(messages_, "main.menu.move_copy_files"), this, &MainWindow::CopyMoveFiles)
       ->setObjectName("mnuMoveCopyFiles");
-  tools->addAction(Msg(messages_, "main.menu.rename_from_file"), this,
-                   &MainWindow::RenameFromTextFile)
+  tools
+      ->addAction(Msg(messages_, "main.menu.rename_from_file"), this,
+                  &MainWindow::RenameFromTextFile)
       ->setObjectName("mnuRenameFromFile");
   tools->addAction(Msg(messages_, "main.menu.split_files"), this, &MainWindow::SplitSelectedFiles)
       ->setObjectName("mnuSplitFiles");
   tools->addAction(Msg(messages_, "main.menu.merge_files"), this, &MainWindow::MergeSelectedFiles)
       ->setObjectName("mnuMergeFiles");
-  tools->addAction(Msg(messages_, "main.menu.secure_delete"), this,
-                   &MainWindow::SecureDeleteSelectedFiles)
+  tools
+      ->addAction(Msg(messages_, "main.menu.secure_delete"), this,
+                  &MainWindow::SecureDeleteSelectedFiles)
       ->setObjectName("mnuSecureDelete");
-  tools->addAction(Msg(messages_, "main.menu.md5_checksums"), this,
-                   [this] { ShowChecksums(DigestKind::kMd5); })
+  tools
+      ->addAction(Msg(messages_, "main.menu.md5_checksums"), this,
+                  [this] { ShowChecksums(DigestKind::kMd5); })
       ->setObjectName("mnuGetMD5Checksums");
-  tools->addAction(Msg(messages_, "main.menu.sha256_checksums"), this,
-                   [this] { ShowChecksums(DigestKind::kSha256); })
+  tools
+      ->addAction(Msg(messages_, "main.menu.sha256_checksums"), this,
+                  [this] { ShowChecksums(DigestKind::kSha256); })
       ->setObjectName("mnuGetSHA256Checksums");
+  tools->addAction(Msg(messages_, "main.menu.compress_to_jpg"), this, &MainWindow::CompressPictures)
+      ->setObjectName("mnuCompressToJPG");
   tools->addSeparator();
-  QAction* undo = tools->addAction(Msg(messages_, "main.menu.undo_last_run"),
-                                   QKeySequence::Undo, this, &MainWindow::UndoLastRun);
+  QAction* undo = tools->addAction(Msg(messages_, "main.menu.undo_last_run"), QKeySequence::Undo,
+                                   this, &MainWindow::UndoLastRun);
   undo->setObjectName("mnuUndoLastRun");
   // Offered while runs write an undo batch and the batch is there.
   connect(tools, &QMenu::aboutToShow, this, [this, undo] {
     undo->setEnabled(options_.GetOption("WriteUndoList", "Options", "1") != "0" &&
                      FileExists(CurrentUndoBatch()));
   });
-  tools->addAction(Msg(messages_, "main.menu.show_log"), QKeySequence(Qt::Key_F7), this,
-                   &MainWindow::ShowLogFile)
+  tools
+      ->addAction(Msg(messages_, "main.menu.show_log"), QKeySequence(Qt::Key_F7), this,
+                  &MainWindow::ShowLogFile)
       ->setObjectName("mnuShowLog");
-  tools->addAction(Msg(messages_, "main.menu.undo_folder"), QKeySequence(Qt::Key_F8), this,
-                   &MainWindow::ShowUndoFolder)
+  tools
+      ->addAction(Msg(messages_, "main.menu.undo_folder"), QKeySequence(Qt::Key_F8), this,
+                  &MainWindow::ShowUndoFolder)
       ->setObjectName("mnuUndoFolder");
 
   QMenu* help = menuBar()->addMenu(Msg(messages_, "main.menu.help"));
@@ -195,8 +203,10 @@ void MainWindow::RestoreWindowLayout() {
     return value > 0 ? static_cast<int>(value) : fallback;
   };
   // The default shows the whole panel of renaming controls.
-  resize(std::max(640, number("Width", kDefaultWidth)), std::max(480, number("Height", kDefaultHeight)));
-  const long mode = std::strtol(options_.GetOption("ListView", "Options", "1").c_str(), nullptr, 10);
+  resize(std::max(640, number("Width", kDefaultWidth)),
+         std::max(480, number("Height", kDefaultHeight)));
+  const long mode =
+      std::strtol(options_.GetOption("ListView", "Options", "1").c_str(), nullptr, 10);
   if (mode >= 0 && mode <= 2) SetListViewMode(static_cast<ListViewMode>(mode));
 }
 

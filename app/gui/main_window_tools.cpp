@@ -1,18 +1,19 @@
 // The tools of the Tools menu that work on the selected rows.
 #include <QFileDialog>
 
+#include "base/path_text.h"
+#include "compress_dialog.h"
 #include "copy_move_dialog.h"
+#include "core/undo_runner.h"
 #include "desktop_integration.h"
 #include "log_viewer.h"
 #include "main_window.h"
+#include "persist/log_options.h"
+#include "platform/files.h"
 #include "qt_text.h"
 #include "rename_text_dialog.h"
 #include "report_window.h"
 #include "split_merge_dialogs.h"
-#include "base/path_text.h"
-#include "core/undo_runner.h"
-#include "persist/log_options.h"
-#include "platform/files.h"
 #include "tools/copy_move.h"
 #include "tools/rename_from_text.h"
 #include "tools/secure_delete.h"
@@ -103,6 +104,19 @@ void MainWindow::SecureDeleteSelectedFiles() {
   AfterJob();
 }
 
+void MainWindow::CompressPictures() {
+  ViewSelectionToList();
+  const std::vector<std::size_t> rows = list_.SelectedRows();
+  if (rows.empty()) return;
+  CompressDialog dialog(list_.Path(rows.front()), messages_, *interaction_, this);
+  if (dialog.exec() != QDialog::Accepted) return;
+  change_timer_.stop();
+  new_name_timer_.stop();
+  const ToolJobResult result = CompressToJpeg(RunEnv(), dialog.choices());
+  AfterJob();
+  ShowToolFailures(result, "picture.compress_title");
+}
+
 void MainWindow::ShowChecksums(DigestKind kind) {
   ViewSelectionToList();
   if (list_.SelectedCount() == 0) return;
@@ -110,9 +124,9 @@ void MainWindow::ShowChecksums(DigestKind kind) {
   new_name_timer_.stop();
   const ChecksumReport report = BuildChecksumReport(RunEnv(), kind);
   AfterJob();
-  ReportWindow window(Msg(messages_, kind == DigestKind::kMd5 ? "report.md5_title"
-                                                              : "report.sha256_title"),
-                      report.text, options_, messages_, *interaction_, this);
+  ReportWindow window(
+      Msg(messages_, kind == DigestKind::kMd5 ? "report.md5_title" : "report.sha256_title"),
+      report.text, options_, messages_, *interaction_, this);
   window.exec();
 }
 
@@ -144,14 +158,15 @@ void MainWindow::ShowUndoFolder() {
   const std::string folder = UndoFolderPath(options_, log_state_);
   const std::string title(messages_.Text("undo_folder.title"));
   if (!FolderExists(folder)) {
-    interaction_->ShowMessage({title, std::string(messages_.Text("undo_folder.missing")) + "\r\n" + folder,
+    interaction_->ShowMessage({title,
+                               std::string(messages_.Text("undo_folder.missing")) + "\r\n" + folder,
                                Buttons::kOk, MessageIcon::kInformation, Topic::kNotice});
     return;
   }
   if (OpenOnDesktop(desktop_opener_, folder)) return;
-  interaction_->ShowMessage({title, std::string(messages_.Text("undo_folder.no_file_manager")) +
-                                        "\r\n" + folder,
-                             Buttons::kOk, MessageIcon::kInformation, Topic::kNotice});
+  interaction_->ShowMessage(
+      {title, std::string(messages_.Text("undo_folder.no_file_manager")) + "\r\n" + folder,
+       Buttons::kOk, MessageIcon::kInformation, Topic::kNotice});
 }
 
 std::string MainWindow::CurrentUndoBatch() const {
@@ -176,15 +191,16 @@ void MainWindow::UndoLastRun() {
   const std::string batch = CurrentUndoBatch();
   const std::string title(messages_.Text("main.menu.undo_last_run"));
   if (!FileExists(batch)) {
-    interaction_->ShowMessage({title, std::string(messages_.Text("undo.nothing_to_undo")) +
-                                          "\r\n" + batch,
+    interaction_->ShowMessage({title,
+                               std::string(messages_.Text("undo.nothing_to_undo")) + "\r\n" + batch,
                                Buttons::kOk, MessageIcon::kInformation, Topic::kNotice});
     return;
   }
   const std::vector<TestResultRow> preview = UndoPreview(batch);
   interaction_->ShowTestResults(preview);
   const Answer answer = interaction_->ShowMessage(
-      {title, FillMessage(messages_.Text("undo.last_run_question"), {std::to_string(preview.size())}),
+      {title,
+       FillMessage(messages_.Text("undo.last_run_question"), {std::to_string(preview.size())}),
        Buttons::kYesNo, MessageIcon::kQuestion, Topic::kRunUndoBatch});
   if (answer != Answer::kYes) return;
   std::vector<std::string> failures;
@@ -195,25 +211,26 @@ void MainWindow::UndoLastRun() {
   });
   // Taken back whole: the next undo reaches the run before it.
   if (report.failed == 0 && report.runs_done == 1) DropNewestUndoRun(batch);
-  std::string text = FillMessage(messages_.Text("options.undo_batch_done"),
-                                 {std::to_string(report.done), std::to_string(report.failed),
-                                  std::to_string(report.skipped)});
-  for (std::size_t i = 0; i < failures.size() && i < kFailuresShown; ++i) text += "\r\n" + failures[i];
-  interaction_->ShowMessage({title, text, Buttons::kOk,
-                             report.failed > 0 ? MessageIcon::kExclamation : MessageIcon::kInformation,
-                             Topic::kNotice});
+  std::string text = FillMessage(
+      messages_.Text("options.undo_batch_done"),
+      {std::to_string(report.done), std::to_string(report.failed), std::to_string(report.skipped)});
+  for (std::size_t i = 0; i < failures.size() && i < kFailuresShown; ++i)
+    text += "\r\n" + failures[i];
+  interaction_->ShowMessage(
+      {title, text, Buttons::kOk,
+       report.failed > 0 ? MessageIcon::kExclamation : MessageIcon::kInformation, Topic::kNotice});
   FillListFiles();
 }
 
-void MainWindow::ShowToolFailures(const ToolJobResult& result) {
+void MainWindow::ShowToolFailures(const ToolJobResult& result, const char* title_key) {
   if (result.failures.empty()) return;
-  std::string text = FillMessage(messages_.Text("tools.files_failed"),
-                                 {std::to_string(result.failures.size())});
+  std::string text =
+      FillMessage(messages_.Text("tools.files_failed"), {std::to_string(result.failures.size())});
   for (std::size_t i = 0; i < result.failures.size() && i < kFailuresShown; ++i) {
     text += "\r\n" + result.failures[i];
   }
   if (result.failures.size() > kFailuresShown) text += "\r\n...";
-  interaction_->ShowMessage({std::string(messages_.Text("copymove.title")), text, Buttons::kOk,
+  interaction_->ShowMessage({std::string(messages_.Text(title_key)), text, Buttons::kOk,
                              MessageIcon::kExclamation, Topic::kNotice});
 }
 

@@ -13,6 +13,7 @@
 #include <QVBoxLayout>
 
 #include "base/path_text.h"
+#include "dialog_parts.h"
 #include "platform/files.h"
 #include "qt_text.h"
 
@@ -21,37 +22,6 @@ namespace {
 
 // The last choices of a split, kept for the next one.
 constexpr std::string_view kSection = "Splitter";
-
-QCheckBox* Tick(const MessageTable& messages, const char* key, const char* name, QWidget* parent) {
-  auto* tick = new QCheckBox(Msg(messages, key), parent);
-  tick->setObjectName(name);
-  return tick;
-}
-
-QDialogButtonBox* StartCancel(const MessageTable& messages, QDialog* dialog,
-                              const std::function<void()>& start) {
-  auto* buttons = new QDialogButtonBox(dialog);
-  auto* go = buttons->addButton(Msg(messages, "main.button.start"), QDialogButtonBox::AcceptRole);
-  go->setObjectName("cmdStart");
-  go->setDefault(true);
-  auto* cancel = buttons->addButton(Msg(messages, "run.button_cancel"), QDialogButtonBox::RejectRole);
-  cancel->setObjectName("cmdCancel");
-  QObject::connect(go, &QPushButton::clicked, dialog, start);
-  QObject::connect(cancel, &QPushButton::clicked, dialog, &QDialog::reject);
-  return buttons;
-}
-
-// A field with a "..." button beside it that fills it.
-QHBoxLayout* WithBrowse(QLineEdit* field, const MessageTable& messages, QWidget* parent,
-                        const std::function<void()>& browse) {
-  auto* row = new QHBoxLayout;
-  row->addWidget(field, 1);
-  auto* button = new QPushButton(Msg(messages, "options.browse"), parent);
-  button->setObjectName("cmdBrowse");
-  QObject::connect(button, &QPushButton::clicked, parent, browse);
-  row->addWidget(button);
-  return row;
-}
 
 // "1,5" and "1.5" alike; anything else is not a number.
 std::optional<double> AmountOf(QString text) {

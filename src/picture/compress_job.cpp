@@ -26,26 +26,6 @@ std::string BaseName(const std::string& name) {
   return dot == std::string::npos || dot == 0 ? name : name.substr(0, dot);
 }
 
-// The picture as the dialogue wants it turned and mirrored.
-cImage Oriented(cImage image, const CompressChoices& choices) {
-  switch (choices.rotation) {
-    case 1:
-      image = image.Rotate(-90);
-      break;
-    case 2:
-      image = image.Rotate(90);
-      break;
-    case 3:
-      image = image.Rotate(180);
-      break;
-    default:
-      break;
-  }
-  if (choices.mirror == 1) image = image.Mirror(false);
-  if (choices.mirror == 2) image = image.Mirror(true);
-  return image;
-}
-
 // The new file under `target`, flushed before it takes the name, replacing
 // whatever had it.
 FileStatus WriteReplacing(const std::vector<std::uint8_t>& bytes, const std::string& target) {
@@ -82,7 +62,7 @@ class Compressor {
       Fail(source, "the picture is too large");
       return;
     }
-    image = Oriented(std::move(image), choices_);
+    image = OrientedPicture(std::move(image), choices_.rotation, choices_.mirror);
     std::vector<std::uint8_t> exif = choices_.keep_exif ? loaded.exif : std::vector<std::uint8_t>();
     // Turned or flipped here, the pixels stand as they should; a viewer must
     // not turn them again by the camera's tag.
@@ -174,6 +154,25 @@ class Compressor {
 };
 
 }  // namespace
+
+cImage OrientedPicture(cImage image, int rotation, int mirror) {
+  switch (rotation) {
+    case 1:
+      image = image.Rotate(-90);
+      break;
+    case 2:
+      image = image.Rotate(90);
+      break;
+    case 3:
+      image = image.Rotate(180);
+      break;
+    default:
+      break;
+  }
+  if (mirror == 1) image = image.Mirror(false);
+  if (mirror == 2) image = image.Mirror(true);
+  return image;
+}
 
 std::vector<std::string> SubsamplingItems(const MessageTable& messages) {
   std::vector<std::string> items = {"1:1  ", "1:2", "2:1", "2:2  ", "1:3", "3:1", "2:3", "3:2",

@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "picture/image_buffer.h"
 #include "tools/tool_job.h"
 
 namespace tarnwick {
@@ -32,6 +33,11 @@ std::vector<std::string> SubsamplingItems(const MessageTable& messages);
 inline constexpr int kDefaultSubsamplingItem = 3;
 // H and V of an item: the values of its first and third characters.
 std::pair<int, int> SubsamplingFactors(const std::string& item);
+
+// The picture turned (`rotation` as CompressChoices: 1 clockwise, 2
+// anticlockwise, 3 half way) and then mirrored (1 left and right, 2 top and
+// bottom), as the job and its preview show it.
+cImage OrientedPicture(cImage image, int rotation, int mirror);
 
 // `UniqueCopyName`: folder/name (Copy_n)extension with the first n from
 // `counter` on whose file does not exist; `counter` keeps the n used.

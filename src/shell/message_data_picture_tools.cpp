@@ -50,6 +50,12 @@ constexpr MessageEntry kEntries[] = {
     {0, "picture.mirror_nothing", "Nothing", "Nichts"},
     {0, "picture.mirror_horizontal", "Horizontal", "Horizontal"},
     {0, "picture.mirror_vertical", "Vertical", "Vertikal"},
+    {0, "picture.keep_exif", "Keep the EXIF data (dates, camera, place)",
+     "EXIF-Daten behalten (Datum, Kamera, Ort)"},
+    {0, "picture.preview", "Preview", "Vorschau"},
+    {0, "picture.no_preview", "No preview", "Keine Vorschau"},
+    {0, "picture.destination_missing", "The destination folder does not exist:",
+     "Das Zielverzeichnis existiert nicht:"},
 
     // Resizing: the job and its dialogue. Captions without a quoted wording
     // (width, height, the format frame, compression) are ours.

@@ -104,6 +104,8 @@ constexpr MessageEntry kEntries[] = {
     {0, "main.menu.split_files", "Split file(s) ...", "Datei(en) teilen ..."},
     {0, "main.menu.merge_files", "Merge file(s) ...", "Datei(en) zusammenfügen ..."},
     {0, "main.menu.secure_delete", "Secure delete files ...", "Dateien sicher löschen ..."},
+    {0, "main.menu.compress_to_jpg", "Compress picture files to JPEG ...",
+     "Bilddateien nach JPEG komprimieren ..."},
     {0, "main.menu.md5_checksums", "Create MD5 checksums", "MD5-Prüfsummen erstellen"},
     {0, "main.menu.sha256_checksums", "Create SHA256 checksums", "SHA256-Prüfsummen erstellen"},
     {0, "main.menu.export_text", "Export file list as text ...",

@@ -1,0 +1,45 @@
+#include "dialog_parts.h"
+
+#include <QCheckBox>
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "qt_text.h"
+
+namespace tarnwick::gui {
+
+QCheckBox* Tick(const MessageTable& messages, const char* key, const char* name, QWidget* parent) {
+  auto* tick = new QCheckBox(Msg(messages, key), parent);
+  tick->setObjectName(name);
+  return tick;
+}
+
+QDialogButtonBox* StartCancel(const MessageTable& messages, QDialog* dialog,
+                              const std::function<void()>& start) {
+  auto* buttons = new QDialogButtonBox(dialog);
+  auto* go = buttons->addButton(Msg(messages, "main.button.start"), QDialogButtonBox::AcceptRole);
+  go->setObjectName("cmdStart");
+  go->setDefault(true);
+  auto* cancel =
+      buttons->addButton(Msg(messages, "run.button_cancel"), QDialogButtonBox::RejectRole);
+  cancel->setObjectName("cmdCancel");
+  QObject::connect(go, &QPushButton::clicked, dialog, start);
+  QObject::connect(cancel, &QPushButton::clicked, dialog, &QDialog::reject);
+  return buttons;
+}
+
+QHBoxLayout* WithBrowse(QLineEdit* field, const MessageTable& messages, QWidget* parent,
+                        const std::function<void()>& browse) {
+  auto* row = new QHBoxLayout;
+  row->addWidget(field, 1);
+  auto* button = new QPushButton(Msg(messages, "options.browse"), parent);
+  button->setObjectName("cmdBrowse");
+  QObject::connect(button, &QPushButton::clicked, parent, browse);
+  row->addWidget(button);
+  return row;
+}
+
+}  // namespace tarnwick::gui

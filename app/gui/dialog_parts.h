@@ -1,0 +1,30 @@
+#pragma once
+
+#include <functional>
+
+#include "shell/message_table.h"
+
+class QCheckBox;
+class QDialog;
+class QDialogButtonBox;
+class QHBoxLayout;
+class QLineEdit;
+class QWidget;
+
+namespace tarnwick::gui {
+
+// Pieces the tool dialogues share.
+
+// A tick box with the text of `key` and the control name `name`.
+QCheckBox* Tick(const MessageTable& messages, const char* key, const char* name, QWidget* parent);
+
+// "Start" (the default button, `cmdStart`, calling `start`) and "Cancel"
+// (`cmdCancel`, rejecting the dialogue).
+QDialogButtonBox* StartCancel(const MessageTable& messages, QDialog* dialog,
+                              const std::function<void()>& start);
+
+// A field with a "..." button beside it (`cmdBrowse`) that fills it.
+QHBoxLayout* WithBrowse(QLineEdit* field, const MessageTable& messages, QWidget* parent,
+                        const std::function<void()>& browse);
+
+}  // namespace tarnwick::gui

@@ -1,0 +1,130 @@
+// Compress picture files to JPEG in the window: the dialogue's controls, its
+// preview, and the Tools menu entry end to end.
+#include "compress_dialog.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPixmap>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSlider>
+#include <QTimer>
+#include <filesystem>
+
+#include "gui/gui_test_support.h"
+#include "main_window.h"
+#include "persist/option_store.h"
+#include "picture/bmp_codec.h"
+#include "picture/picture_file.h"
+#include "shell/scripted_interaction.h"
+#include "support/temp_dir.h"
+
+namespace tarnwick::testing {
+namespace {
+
+namespace fs = std::filesystem;
+using gui::CompressDialog;
+using gui::MainWindow;
+
+class CompressDialogTest : public GuiTest {
+ protected:
+  CompressDialogTest() : options(config.path() / "Tarnwick.ini") {
+    options.SaveOption("LogFilePath", "Options", (config.path() / "Tarnwick.log").string());
+    options.SaveOption("UndoFilePath", "Options", config.str());
+    options.SaveOption("ReadySound", "Options", "0");
+    cImage wide;
+    wide.Create(40, 20, 24);
+    const std::vector<std::uint8_t> bmp = EncodeBmp(wide);
+    dir.WriteFile("files/wide.bmp", std::string(bmp.begin(), bmp.end()));
+    dir.WriteFile("files/notes.txt", "text");
+  }
+
+  template <typename T>
+  static T* Child(QWidget* parent, const char* name) {
+    T* child = parent->findChild<T*>(name);
+    EXPECT_NE(child, nullptr) << name;
+    return child;
+  }
+
+  std::string File(const std::string& name) const { return (dir.path() / "files" / name).string(); }
+
+  TempDir dir;
+  TempDir config;
+  OptionStore options;
+  ScriptedInteraction interaction;
+  const MessageTable& messages = MessageTable::Get(Language::kEnglish);
+};
+
+TEST_F(CompressDialogTest, ControlsGiveTheChoicesAndThePreviewTurns) {
+  CompressDialog dialog(File("wide.bmp"), messages, interaction);
+  EXPECT_EQ(Child<QComboBox>(&dialog, "cboSubSample")->currentText(), "2:2   [Default]");
+  EXPECT_EQ(dialog.choices().quality, 75);
+  EXPECT_EQ(dialog.choices().h, 2);
+  Child<QSlider>(&dialog, "hscQuality")->setValue(40);
+  EXPECT_EQ(Child<QLabel>(&dialog, "lblQuality")->text(), "40");
+  Child<QComboBox>(&dialog, "cboSubSample")->setCurrentIndex(7);  // "3:2"
+  Child<QCheckBox>(&dialog, "chkGreyscale")->setChecked(true);
+  EXPECT_FALSE(Child<QComboBox>(&dialog, "cboSubSample")->isEnabled());
+  Child<QLineEdit>(&dialog, "txtComment")->setText("Hafen");
+  const QPixmap before = dialog.preview()->pixmap();
+  EXPECT_GT(before.width(), before.height());
+  Child<QRadioButton>(&dialog, "Option1_1")->click();
+  Child<QRadioButton>(&dialog, "Option2_2")->click();
+  const QPixmap turned = dialog.preview()->pixmap();
+  EXPECT_LT(turned.width(), turned.height());  // a quarter turn stands it up
+  const CompressChoices choices = dialog.choices();
+  EXPECT_EQ(choices.quality, 40);
+  EXPECT_EQ(choices.h, 3);
+  EXPECT_EQ(choices.v, 2);
+  EXPECT_TRUE(choices.greyscale);
+  EXPECT_EQ(choices.comment, "Hafen");
+  EXPECT_EQ(choices.rotation, 1);
+  EXPECT_EQ(choices.mirror, 2);
+  EXPECT_TRUE(choices.keep_exif);
+
+  // Another folder that is not there keeps the dialogue open.
+  Child<QCheckBox>(&dialog, "chkDifferentDestinationDir")->setChecked(true);
+  Child<QLineEdit>(&dialog, "txtDestinationDir")->setText(QString::fromStdString(File("nowhere")));
+  interaction.SetDefault(QuestionKind::kMessageBox, Answer::kOk);
+  EXPECT_FALSE(dialog.Start());
+  EXPECT_EQ(interaction.asked().back().title, "Error");
+
+  // A file that is no picture: the preview says so.
+  CompressDialog text(File("notes.txt"), messages, interaction);
+  EXPECT_EQ(text.preview()->text(), "No preview");
+}
+
+TEST_F(CompressDialogTest, TheToolsMenuWritesTheJpegAndNamesWhatFailed) {
+  auto window = std::make_unique<MainWindow>(options, messages, &interaction);
+  window->ShowFolder(QString::fromStdString((dir.path() / "files").string()));
+  window->SelectAll();
+  QTimer::singleShot(0, [] {
+    CompressDialog* dialog = nullptr;
+    ASSERT_TRUE(WaitFor([&] {
+      return (dialog = qobject_cast<CompressDialog*>(QApplication::activeModalWidget()));
+    }));
+    Child<QPushButton>(dialog, "cmdStart")->click();
+  });
+  interaction.SetDefault(QuestionKind::kMessageBox, Answer::kOk);
+  window->findChild<QAction*>(QString("mnuCompressToJPG"))->trigger();
+  const LoadedPicture written = LoadPicture(File("wide.jpg"));
+  ASSERT_TRUE(written.ok()) << written.error;
+  EXPECT_EQ(written.picture.width, 40);
+  // The count of message 655, then the failed file by name.
+  bool told_count = false, named = false;
+  for (const auto& asked : interaction.asked()) {
+    told_count |= asked.text.find("1 files couldn't be processed") != std::string::npos;
+    named |= asked.text.find("notes.txt") != std::string::npos &&
+             asked.title == "Compress picture files to JPEG";
+  }
+  EXPECT_TRUE(told_count);
+  EXPECT_TRUE(named);
+}
+
+}  // namespace
+}  // namespace tarnwick::testing
