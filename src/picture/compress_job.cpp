@@ -11,7 +11,7 @@
 #include "picture/image_buffer.h"
 #include "picture/jpeg_encoder.h"
 #include "picture/picture_file.h"
-#include "platform/file_pieces.h"
+#include "picture/picture_output.h"
 #include "platform/files.h"
 #include "shell/interaction.h"
 #include "shell/message_table.h"
@@ -21,24 +21,10 @@ namespace {
 
 constexpr const char* kOptions = "Options";
 
-std::string BaseName(const std::string& name) {
-  const std::size_t dot = name.rfind('.');
-  return dot == std::string::npos || dot == 0 ? name : name.substr(0, dot);
-}
-
-// The new file under `target`, flushed before it takes the name, replacing
-// whatever had it.
-FileStatus WriteReplacing(const std::vector<std::uint8_t>& bytes, const std::string& target) {
-  StagedFile file;
-  FileStatus status = file.Open(target);
-  if (status.ok()) status = file.Write(bytes);
-  if (status.ok()) status = file.Commit(/*replace=*/true, /*flush=*/true);
-  return status;
-}
-
 class Compressor {
  public:
-  Compressor(ToolJob& job, const CompressChoices& choices) : job_(job), choices_(choices) {
+  Compressor(ToolJob& job, const CompressChoices& choices)
+      : job_(job), choices_(choices), output_(choices.overwrite, job.env().messages) {
     if (choices.greyscale) {
       encoder_.SetSamplingFrequencies(1, 1, 0, 0, 0, 0);
     } else {
@@ -74,83 +60,38 @@ class Compressor {
     }
     const std::string folder =
         choices_.destination.empty() ? std::string(list.Folder(row)) : choices_.destination;
-    const std::string base = BaseName(list.Text(row, file_column::kName));
-    const std::optional<std::string> target = choices_.overwrite
-                                                  ? Replace(source, JoinPath(folder, base + ".jpg"))
-                                                  : SaveBeside(folder, base);
-    if (!target) return;
-    SetDates(row, *target);
+    std::vector<std::uint8_t> bytes;
+    try {
+      bytes = encoder_.Encode();
+    } catch (const VbError& error) {
+      Fail(source, std::to_string(error.number()) + ": " + error.description());
+      return;
+    }
+    FileStatus failure;
+    const std::optional<std::string> target =
+        output_.Place(bytes, source, folder, PictureBaseName(list.Text(row, file_column::kName)),
+                      ".jpg", failure);
+    if (!failure.ok()) {
+      // Without a target nothing was written; with one, the original could
+      // not be deleted and stays beside the new file.
+      Fail(target ? source : folder, std::to_string(failure.number) + ": " + failure.description);
+      return;
+    }
+    SetNewPictureDates(job_, job_.Text("picture.compress_title"), row, *target, use_exif_date_);
     job_.LogTool(job_.Text("picture.compress_title"), "\"" + source + "\" -> \"" + *target + "\"");
     job_.Done();
   }
 
  private:
   void Fail(const std::string& path, const std::string& why) {
-    job_.Failed(path, why);
-    job_.LogTool(job_.Text("picture.compress_title"),
-                 job_.Text("run.log_error") + " \"" + path + "\" (" + why + ")");
-  }
-
-  // The new file takes the target's name (an older file of that name goes),
-  // then the original is removed.
-  std::optional<std::string> Replace(const std::string& source, const std::string& target) {
-    std::vector<std::uint8_t> bytes;
-    try {
-      bytes = encoder_.Encode();
-    } catch (const VbError& error) {
-      Fail(source, std::to_string(error.number()) + ": " + error.description());
-      return std::nullopt;
-    }
-    if (const FileStatus status = WriteReplacing(bytes, target); !status.ok()) {
-      Fail(source, std::to_string(status.number) + ": " + status.description);
-      return std::nullopt;
-    }
-    if (source != target) {
-      if (const FileStatus status = DeleteFile(source); !status.ok()) {
-        Fail(source, std::to_string(status.number) + ": " + status.description);
-      }
-    }
-    return target;
-  }
-
-  // A new file beside the original, never over another.
-  std::optional<std::string> SaveBeside(const std::string& folder, const std::string& base) {
-    std::string target = JoinPath(folder, base + ".jpg");
-    try {
-      for (;;) {
-        if (FileExists(target)) {
-          target = UniqueCopyName(folder, base, ".jpg", copy_counter_, job_.env().messages);
-        }
-        // A file that appeared since the test: the next free name.
-        if (encoder_.SaveFile(target) != 2) return target;
-      }
-    } catch (const VbError& error) {
-      Fail(target, std::to_string(error.number()) + ": " + error.description());
-      return std::nullopt;
-    }
-  }
-
-  void SetDates(std::size_t row, const std::string& target) {
-    const RenameRunEnv& env = job_.env();
-    const FileDateEnv dates{env.options, env.interaction, env.messages, env.media};
-    try {
-      if (env.options.GetOption("KeepOldFiledate", kOptions, "0") == "1") {
-        ChangeFileDateAndTimeKeepOld(dates, target, env.list.Text(row, file_column::kDate));
-      }
-      if (use_exif_date_) ChangeFileDateAndTimeJPG(dates, target);
-    } catch (const VbError& error) {
-      job_.LogTool(
-          job_.Text("picture.compress_title"),
-          "\"" + target + "\": " + std::to_string(error.number()) + ": " + error.description());
-    }
+    PictureFailed(job_, job_.Text("picture.compress_title"), path, why);
   }
 
   ToolJob& job_;
   const CompressChoices& choices_;
   cJPEG encoder_;
+  PictureOutput output_;
   bool use_exif_date_ = false;
-  // `UniqueCopyName`'s counter: from 1 at the job's start.
-  int copy_counter_ = 1;
 };
 
 }  // namespace
@@ -202,16 +143,10 @@ std::string UniqueCopyName(const std::string& folder, const std::string& name,
 
 ToolJobResult CompressToJpeg(const RenameRunEnv& env, const CompressChoices& choices) {
   const MessageTable& messages = env.messages;
-  if (choices.overwrite) {
-    const Answer answer = env.interaction.ShowMessage(
-        {std::string(messages.Text("picture.overwrite_title")),
-         std::string(messages.Text("picture.overwrite_question")), Buttons::kYesNo,
-         MessageIcon::kQuestion, Topic::kOverwritePictures});
-    if (answer != Answer::kYes) {
-      ToolJobResult not_confirmed;
-      not_confirmed.refused = true;
-      return not_confirmed;
-    }
+  if (choices.overwrite && !ConfirmReplacingPictures(env)) {
+    ToolJobResult not_confirmed;
+    not_confirmed.refused = true;
+    return not_confirmed;
   }
   ToolJob job(env);
   Compressor compressor(job, choices);
@@ -222,12 +157,7 @@ ToolJobResult CompressToJpeg(const RenameRunEnv& env, const CompressChoices& cho
   }
   job.Finish(choices.overwrite);
   const ToolJobResult& result = job.result();
-  if (result.failed > 0) {
-    env.interaction.ShowMessage({std::string(messages.Text("picture.compress_title")),
-                                 std::to_string(result.failed) + " " +
-                                     std::string(messages.Text("picture.files_not_processed")),
-                                 Buttons::kOk, MessageIcon::kExclamation, Topic::kNotice});
-  }
+  TellPictureFailures(env, std::string(messages.Text("picture.compress_title")), result);
   return result;
 }
 

@@ -1,0 +1,199 @@
+// JPEG (libjpeg-turbo), PNG (libpng) and TIFF (libtiff) files of a picture,
+// built in memory.
+// jpeglib.h needs size_t and FILE declared before it.
+// clang-format off
+#include <cstddef>
+#include <cstdio>
+#include <jpeglib.h>
+// clang-format on
+#include "picture/picture_writers.h"
+
+#include <png.h>
+#include <tiffio.h>
+
+#include <algorithm>
+#include <csetjmp>
+#include <cstring>
+#include <memory>
+
+#include "base/text.h"
+
+namespace tarnwick {
+namespace {
+
+struct JpegErrors {
+  jpeg_error_mgr manager;
+  std::jmp_buf jump;
+  char last[JMSG_LENGTH_MAX] = {};
+};
+
+void JumpOut(j_common_ptr info) {
+  auto* errors = reinterpret_cast<JpegErrors*>(info->err);
+  (*info->err->format_message)(info, errors->last);
+  std::longjmp(errors->jump, 1);
+}
+
+// A growing file in memory for libtiff.
+struct MemoryFile {
+  std::vector<std::uint8_t> bytes;
+  toff_t at = 0;
+};
+
+tmsize_t TiffRead(thandle_t handle, void* buffer, tmsize_t size) {
+  auto* file = static_cast<MemoryFile*>(handle);
+  if (size <= 0 || file->at >= file->bytes.size()) return 0;
+  const auto count =
+      std::min<std::size_t>(static_cast<std::size_t>(size), file->bytes.size() - file->at);
+  std::memcpy(buffer, file->bytes.data() + file->at, count);
+  file->at += count;
+  return static_cast<tmsize_t>(count);
+}
+tmsize_t TiffWrite(thandle_t handle, void* buffer, tmsize_t size) {
+  auto* file = static_cast<MemoryFile*>(handle);
+  if (size <= 0) return 0;
+  const auto count = static_cast<std::size_t>(size);
+  if (file->at + count > file->bytes.size()) file->bytes.resize(file->at + count);
+  std::memcpy(file->bytes.data() + file->at, buffer, count);
+  file->at += count;
+  return size;
+}
+toff_t TiffSeek(thandle_t handle, toff_t offset, int whence) {
+  auto* file = static_cast<MemoryFile*>(handle);
+  const toff_t base = whence == SEEK_CUR ? file->at : whence == SEEK_END ? file->bytes.size() : 0;
+  file->at = base + offset;
+  return file->at;
+}
+int TiffClose(thandle_t) { return 0; }
+toff_t TiffSize(thandle_t handle) { return static_cast<MemoryFile*>(handle)->bytes.size(); }
+
+thread_local std::string tiff_complaint;
+int KeepComplaint(TIFF*, void*, const char*, const char* format, va_list arguments) {
+  char text[512];
+  std::vsnprintf(text, sizeof text, format, arguments);
+  tiff_complaint = text;
+  return 1;
+}
+
+// Each pixel black (1) or white (0) by its grey, eight to a byte.
+std::vector<std::uint8_t> BlackAndWhiteRow(const RgbPicture& rgb, int y) {
+  std::vector<std::uint8_t> row(static_cast<std::size_t>((rgb.width + 7) / 8), 0);
+  for (int x = 0; x < rgb.width; ++x) {
+    const std::uint8_t* p = rgb.Pixel(x, y);
+    if ((p[0] + p[1] + p[2]) < 3 * 128)
+      row[static_cast<std::size_t>(x / 8)] |= static_cast<std::uint8_t>(0x80 >> (x % 8));
+  }
+  return row;
+}
+
+}  // namespace
+
+TiffCompression TiffCompressionOf(const std::string& text, const std::string& none_words) {
+  const std::string upper = vb::UCase(text);
+  if (upper == "CCITT3") return TiffCompression::kCcitt3;
+  if (upper == "CCITT4") return TiffCompression::kCcitt4;
+  if (upper == "RLE") return TiffCompression::kRle;
+  if (upper == vb::UCase(none_words)) return TiffCompression::kNone;
+  return TiffCompression::kLzw;
+}
+
+std::vector<std::uint8_t> EncodeJpegTurbo(const cImage& image, int quality, std::string& error) {
+  const RgbPicture rgb = image.ToRgb();
+  jpeg_compress_struct info{};
+  JpegErrors errors;
+  info.err = jpeg_std_error(&errors.manager);
+  errors.manager.error_exit = JumpOut;
+  unsigned char* buffer = nullptr;
+  unsigned long size = 0;
+  if (setjmp(errors.jump) != 0) {
+    jpeg_destroy_compress(&info);
+    std::free(buffer);
+    error = errors.last;
+    return {};
+  }
+  jpeg_create_compress(&info);
+  jpeg_mem_dest(&info, &buffer, &size);
+  info.image_width = static_cast<JDIMENSION>(rgb.width);
+  info.image_height = static_cast<JDIMENSION>(rgb.height);
+  info.input_components = 3;
+  info.in_color_space = JCS_RGB;
+  jpeg_set_defaults(&info);
+  jpeg_set_quality(&info, std::clamp(quality, 0, 100), TRUE);
+  jpeg_start_compress(&info, TRUE);
+  while (info.next_scanline < info.image_height) {
+    JSAMPROW row = const_cast<std::uint8_t*>(rgb.Pixel(0, static_cast<int>(info.next_scanline)));
+    jpeg_write_scanlines(&info, &row, 1);
+  }
+  jpeg_finish_compress(&info);
+  jpeg_destroy_compress(&info);
+  std::vector<std::uint8_t> bytes(buffer, buffer + size);
+  std::free(buffer);
+  return bytes;
+}
+
+std::vector<std::uint8_t> EncodePng(const cImage& image, std::string& error) {
+  const RgbPicture rgb = image.ToRgb();
+  png_image png{};
+  png.version = PNG_IMAGE_VERSION;
+  png.width = static_cast<png_uint_32>(rgb.width);
+  png.height = static_cast<png_uint_32>(rgb.height);
+  png.format = PNG_FORMAT_RGB;
+  png_alloc_size_t size = 0;
+  if (png_image_write_to_memory(&png, nullptr, &size, 0, rgb.rgb.data(), 0, nullptr) == 0) {
+    error = png.message;
+    return {};
+  }
+  std::vector<std::uint8_t> bytes(size);
+  if (png_image_write_to_memory(&png, bytes.data(), &size, 0, rgb.rgb.data(), 0, nullptr) == 0) {
+    error = png.message;
+    return {};
+  }
+  bytes.resize(size);
+  return bytes;
+}
+
+std::vector<std::uint8_t> EncodeTiff(const cImage& image, TiffCompression compression,
+                                     std::string& error) {
+  const RgbPicture rgb = image.ToRgb();
+  MemoryFile file;
+  tiff_complaint.clear();
+  std::unique_ptr<TIFFOpenOptions, decltype(&TIFFOpenOptionsFree)> options(TIFFOpenOptionsAlloc(),
+                                                                           &TIFFOpenOptionsFree);
+  TIFFOpenOptionsSetErrorHandlerExtR(options.get(), KeepComplaint, nullptr);
+  TIFF* tiff = TIFFClientOpenExt("memory", "w", &file, TiffRead, TiffWrite, TiffSeek, TiffClose,
+                                 TiffSize, nullptr, nullptr, options.get());
+  if (tiff == nullptr) {
+    error = tiff_complaint;
+    return {};
+  }
+  const bool bilevel = compression == TiffCompression::kCcitt3 ||
+                       compression == TiffCompression::kCcitt4 ||
+                       compression == TiffCompression::kRle;
+  TIFFSetField(tiff, TIFFTAG_IMAGEWIDTH, static_cast<std::uint32_t>(rgb.width));
+  TIFFSetField(tiff, TIFFTAG_IMAGELENGTH, static_cast<std::uint32_t>(rgb.height));
+  TIFFSetField(tiff, TIFFTAG_PLANARCONFIG, PLANARCONFIG_CONTIG);
+  TIFFSetField(tiff, TIFFTAG_SAMPLESPERPIXEL, bilevel ? 1 : 3);
+  TIFFSetField(tiff, TIFFTAG_BITSPERSAMPLE, bilevel ? 1 : 8);
+  TIFFSetField(tiff, TIFFTAG_PHOTOMETRIC, bilevel ? PHOTOMETRIC_MINISWHITE : PHOTOMETRIC_RGB);
+  const int code = compression == TiffCompression::kLzw      ? COMPRESSION_LZW
+                   : compression == TiffCompression::kCcitt3 ? COMPRESSION_CCITTFAX3
+                   : compression == TiffCompression::kCcitt4 ? COMPRESSION_CCITTFAX4
+                   : compression == TiffCompression::kRle    ? COMPRESSION_PACKBITS
+                                                             : COMPRESSION_NONE;
+  TIFFSetField(tiff, TIFFTAG_COMPRESSION, code);
+  TIFFSetField(tiff, TIFFTAG_ROWSPERSTRIP, TIFFDefaultStripSize(tiff, 0));
+  bool written = true;
+  for (int y = 0; y < rgb.height && written; ++y) {
+    std::vector<std::uint8_t> row =
+        bilevel ? BlackAndWhiteRow(rgb, y)
+                : std::vector<std::uint8_t>(rgb.Pixel(0, y), rgb.Pixel(0, y) + rgb.width * 3);
+    written = TIFFWriteScanline(tiff, row.data(), static_cast<std::uint32_t>(y), 0) == 1;
+  }
+  TIFFClose(tiff);
+  if (!written) {
+    error = tiff_complaint;
+    return {};
+  }
+  return std::move(file.bytes);
+}
+
+}  // namespace tarnwick
