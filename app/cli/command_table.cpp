@@ -27,15 +27,16 @@ extern const Command kMergeCommand;
 extern const Command kShredCommand;
 extern const Command kChecksumCommand;
 extern const Command kJpegCommand;
+extern const Command kResizeCommand;
 
 std::span<const Command> AllCommands() {
   static const std::array kCommands = {
-      kOptionsCommand, kExpandCommand,  kCatalogueCommand, kListCommand,
-      kRunCommand,     kPreviewCommand, kUndoCommand,      kSettingsCommand,
-      kTagsCommand,    kExifCommand,    kWmaCommand,       kReportCommand,
-      kPlaylistCommand, kCopyCommand,     kMoveCommand,      kRenameFromTextCommand,
-      kSplitCommand,   kMergeCommand,   kShredCommand,     kChecksumCommand,
-      kJpegCommand,
+      kOptionsCommand,  kExpandCommand,  kCatalogueCommand, kListCommand,
+      kRunCommand,      kPreviewCommand, kUndoCommand,      kSettingsCommand,
+      kTagsCommand,     kExifCommand,    kWmaCommand,       kReportCommand,
+      kPlaylistCommand, kCopyCommand,    kMoveCommand,      kRenameFromTextCommand,
+      kSplitCommand,    kMergeCommand,   kShredCommand,     kChecksumCommand,
+      kJpegCommand,     kResizeCommand,
   };
   return kCommands;
 }

@@ -67,5 +67,26 @@ TEST_F(CliJpegTest, ReplacingNeedsAYesAndBadArgumentsAreRefused) {
   }
 }
 
+TEST_F(CliJpegTest, ResizeWritesEachFormatAndRefusesBadSizes) {
+  CliResult r = cli_.Run({"resize", Path("photo.jpg"), "--percent", "50", "--format", "png"});
+  ASSERT_EQ(r.exit_code, 0) << r.err;
+  const LoadedPicture original = LoadPicture(Path("photo.jpg"));
+  const LoadedPicture half = LoadPicture(Path("photo.png"));
+  ASSERT_TRUE(half.ok()) << half.error;
+  EXPECT_EQ(half.picture.width, (original.picture.width + 1) / 2 + 3);
+  r = cli_.Run({"resize", Path("photo.jpg"), "--width", "10", "--format", "tiff",
+                "--tiff-compression", "ccitt4"});
+  ASSERT_EQ(r.exit_code, 0) << r.err;
+  EXPECT_EQ(LoadPicture(Path("photo.tif")).picture.width, 13);
+  for (const std::vector<std::string>& bad :
+       {std::vector<std::string>{"resize", Path("photo.jpg")},
+        {"resize", Path("photo.jpg"), "--percent", "50", "--width", "10"},
+        {"resize", Path("photo.jpg"), "--percent", "abc"},
+        {"resize", Path("photo.jpg"), "--percent", "50", "--format", "gif"},
+        {"resize", Path("photo.jpg"), "--width", "10", "--tiff-compression", "zip"}}) {
+    EXPECT_EQ(cli_.Run(bad).exit_code, 2) << bad.back();
+  }
+}
+
 }  // namespace
 }  // namespace tarnwick
