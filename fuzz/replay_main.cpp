@@ -1,22 +1,28 @@
 // Stand-in for libFuzzer when the compiler has none: feeds every file of the
 // given folders to the target, then a fixed number of deterministic mutations
 // of them, so each fuzz target also runs as a test under the sanitizers.
+// "--mutations=N" sets their number (default 20,000) for a slow target.
 #include <cstdint>
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <random>
 #include <string>
+#include <string_view>
 #include <vector>
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size);
 
 namespace {
 
+constexpr std::string_view kMutationsFlag = "--mutations=";
+
 std::vector<std::string> ReadSeeds(int argc, char** argv) {
   std::vector<std::string> seeds;
   for (int i = 1; i < argc; ++i) {
+    if (std::string_view(argv[i]).starts_with(kMutationsFlag)) continue;
     std::error_code ec;
     std::filesystem::path root(argv[i]);
     if (std::filesystem::is_regular_file(root, ec)) {
@@ -59,6 +65,14 @@ std::string Mutate(std::string input, std::mt19937& rng) {
   return input;
 }
 
+int Mutations(int argc, char** argv) {
+  for (int i = 1; i < argc; ++i) {
+    const std::string_view arg(argv[i]);
+    if (arg.starts_with(kMutationsFlag)) return std::atoi(argv[i] + kMutationsFlag.size());
+  }
+  return 20000;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -67,7 +81,7 @@ int main(int argc, char** argv) {
     LLVMFuzzerTestOneInput(reinterpret_cast<const uint8_t*>(seed.data()), seed.size());
   }
   std::mt19937 rng(20261122);
-  constexpr int kMutations = 20000;
+  const int kMutations = Mutations(argc, argv);
   for (int i = 0; i < kMutations; ++i) {
     const std::string input = Mutate(seeds[rng() % seeds.size()], rng);
     LLVMFuzzerTestOneInput(reinterpret_cast<const uint8_t*>(input.data()), input.size());
