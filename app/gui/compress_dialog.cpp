@@ -27,32 +27,13 @@ namespace {
 
 constexpr int kPreviewSide = 220;
 
-// A frame of radio buttons, the first ticked; their ids are their places.
-QButtonGroup* Choices(const MessageTable& messages, const char* frame_key, const char* name,
-                      std::initializer_list<const char*> keys, QVBoxLayout* into, QWidget* parent) {
-  auto* frame = new QGroupBox(Msg(messages, frame_key), parent);
-  auto* column = new QVBoxLayout(frame);
-  auto* group = new QButtonGroup(parent);
-  int id = 0;
-  for (const char* key : keys) {
-    auto* button = new QRadioButton(Msg(messages, key), frame);
-    button->setObjectName(QString("%1_%2").arg(name).arg(id));
-    group->addButton(button, id++);
-    column->addWidget(button);
-  }
-  group->button(0)->setChecked(true);
-  into->addWidget(frame);
-  return group;
-}
-
 // The first picture at the preview's size: made smaller, or larger when it
 // is tiny, keeping its proportions.
 cImage PreviewPicture(const std::string& path) {
   const LoadedPicture loaded = path.empty() ? LoadedPicture{} : LoadPicture(path);
   cImage image;
   if (!loaded.ok() || !image.CopyPicture(loaded.picture, 24)) return cImage();
-  const double scale =
-      static_cast<double>(kPreviewSide) / std::max(image.Width(), image.Height());
+  const double scale = static_cast<double>(kPreviewSide) / std::max(image.Width(), image.Height());
   return image.Resample(std::max(1, static_cast<int>(image.Width() * scale)),
                         std::max(1, static_cast<int>(image.Height() * scale)));
 }
@@ -122,14 +103,14 @@ CompressDialog::CompressDialog(const std::string& first_picture, const MessageTa
   auto* turns = new QHBoxLayout;
   auto* turn_column = new QVBoxLayout;
   auto* mirror_column = new QVBoxLayout;
-  rotation_ = Choices(messages, "picture.rotate_frame", "Option1",
-                      {"picture.rotate_nothing", "picture.rotate_clockwise",
-                       "picture.rotate_counterclockwise", "picture.rotate_180"},
-                      turn_column, this);
+  rotation_ = RadioFrame(messages, "picture.rotate_frame", "Option1",
+                         {"picture.rotate_nothing", "picture.rotate_clockwise",
+                          "picture.rotate_counterclockwise", "picture.rotate_180"},
+                         turn_column, this);
   mirror_ =
-      Choices(messages, "picture.mirror_frame", "Option2",
-              {"picture.mirror_nothing", "picture.mirror_horizontal", "picture.mirror_vertical"},
-              mirror_column, this);
+      RadioFrame(messages, "picture.mirror_frame", "Option2",
+                 {"picture.mirror_nothing", "picture.mirror_horizontal", "picture.mirror_vertical"},
+                 mirror_column, this);
   mirror_column->addStretch();
   turns->addLayout(turn_column);
   turns->addLayout(mirror_column);

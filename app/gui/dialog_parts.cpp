@@ -1,11 +1,15 @@
 #include "dialog_parts.h"
 
+#include <QButtonGroup>
 #include <QCheckBox>
 #include <QDialog>
 #include <QDialogButtonBox>
+#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
 
 #include "qt_text.h"
 
@@ -40,6 +44,24 @@ QHBoxLayout* WithBrowse(QLineEdit* field, const MessageTable& messages, QWidget*
   QObject::connect(button, &QPushButton::clicked, parent, browse);
   row->addWidget(button);
   return row;
+}
+
+QButtonGroup* RadioFrame(const MessageTable& messages, const char* frame_key, const char* name,
+                         std::initializer_list<const char*> keys, QBoxLayout* into,
+                         QWidget* parent) {
+  auto* frame = new QGroupBox(Msg(messages, frame_key), parent);
+  auto* column = new QVBoxLayout(frame);
+  auto* group = new QButtonGroup(parent);
+  int id = 0;
+  for (const char* key : keys) {
+    auto* button = new QRadioButton(Msg(messages, key), frame);
+    button->setObjectName(QString("%1_%2").arg(name).arg(id));
+    group->addButton(button, id++);
+    column->addWidget(button);
+  }
+  group->button(0)->setChecked(true);
+  into->addWidget(frame);
+  return group;
 }
 
 }  // namespace tarnwick::gui

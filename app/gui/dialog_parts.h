@@ -1,9 +1,12 @@
 #pragma once
 
 #include <functional>
+#include <initializer_list>
 
 #include "shell/message_table.h"
 
+class QBoxLayout;
+class QButtonGroup;
 class QCheckBox;
 class QDialog;
 class QDialogButtonBox;
@@ -26,5 +29,12 @@ QDialogButtonBox* StartCancel(const MessageTable& messages, QDialog* dialog,
 // A field with a "..." button beside it (`cmdBrowse`) that fills it.
 QHBoxLayout* WithBrowse(QLineEdit* field, const MessageTable& messages, QWidget* parent,
                         const std::function<void()>& browse);
+
+// A frame titled by `frame_key` holding one radio button per key, added to
+// `into`; the buttons are named `name`_0, `name`_1 ... and their ids are
+// their places. The first is ticked.
+QButtonGroup* RadioFrame(const MessageTable& messages, const char* frame_key, const char* name,
+                         std::initializer_list<const char*> keys, QBoxLayout* into,
+                         QWidget* parent);
 
 }  // namespace tarnwick::gui

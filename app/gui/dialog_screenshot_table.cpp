@@ -17,6 +17,7 @@
 #include "qt_text.h"
 #include "rename_text_dialog.h"
 #include "report_window.h"
+#include "resize_dialog.h"
 #include "run_dialogs.h"
 #include "save_settings_dialog.h"
 #include "shell/scripted_interaction.h"
@@ -116,6 +117,10 @@ std::unique_ptr<QDialog> MakeCompress(DialogShotContext& c) {
       c.window.interaction(), &c.window);
 }
 
+std::unique_ptr<QDialog> MakeResize(DialogShotContext& c) {
+  return std::make_unique<ResizeDialog>(c.messages, c.window.interaction(), &c.window);
+}
+
 // The editor with FILE loaded when it is a playlist; otherwise with FILE's
 // folder's music files, or empty.
 std::unique_ptr<QDialog> MakePlaylistEditor(DialogShotContext& c) {
@@ -204,6 +209,7 @@ std::span<const DialogShot> DialogShots() {
       {"checksum-report", "the SHA256 report of FILE's folder", MakeChecksumReport},
       {"compress-jpeg", "compressing pictures to JPEG (FILE: the picture of the preview)",
        MakeCompress},
+      {"resize", "resizing pictures", MakeResize},
       {"playlist-editor", "the playlist editor (FILE: a playlist, or a file of a music folder)",
        MakePlaylistEditor},
   };

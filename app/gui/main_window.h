@@ -122,6 +122,8 @@ class MainWindow : public QMainWindow, public ProgressView {
   void ShowChecksums(DigestKind kind);
   // Compress picture files to JPEG: the dialogue, then the job.
   void CompressPictures();
+  // Resize picture: the dialogue, then the job.
+  void ResizePictures();
   // Takes the newest run of the undo batch back: what it would do first, in
   // the result list, then a question, then the moves, never overwriting.
   void UndoLastRun();

@@ -108,6 +108,8 @@ void MainWindow::BuildMenus() {
       ->setObjectName("mnuGetSHA256Checksums");
   tools->addAction(Msg(messages_, "main.menu.compress_to_jpg"), this, &MainWindow::CompressPictures)
       ->setObjectName("mnuCompressToJPG");
+  tools->addAction(Msg(messages_, "main.menu.resize_pictures"), this, &MainWindow::ResizePictures)
+      ->setObjectName("mnuResizeJPEG");
   tools->addSeparator();
   QAction* undo = tools->addAction(Msg(messages_, "main.menu.undo_last_run"), QKeySequence::Undo,
                                    this, &MainWindow::UndoLastRun);

@@ -13,6 +13,7 @@
 #include "qt_text.h"
 #include "rename_text_dialog.h"
 #include "report_window.h"
+#include "resize_dialog.h"
 #include "split_merge_dialogs.h"
 #include "tools/copy_move.h"
 #include "tools/rename_from_text.h"
@@ -115,6 +116,18 @@ void MainWindow::CompressPictures() {
   const ToolJobResult result = CompressToJpeg(RunEnv(), dialog.choices());
   AfterJob();
   ShowToolFailures(result, "picture.compress_title");
+}
+
+void MainWindow::ResizePictures() {
+  ViewSelectionToList();
+  if (list_.SelectedCount() == 0) return;
+  ResizeDialog dialog(messages_, *interaction_, this);
+  if (dialog.exec() != QDialog::Accepted) return;
+  change_timer_.stop();
+  new_name_timer_.stop();
+  const ToolJobResult result = tarnwick::ResizePictures(RunEnv(), dialog.choices());
+  AfterJob();
+  ShowToolFailures(result, "picture.resize_title");
 }
 
 void MainWindow::ShowChecksums(DigestKind kind) {

@@ -76,6 +76,8 @@ constexpr MessageEntry kEntries[] = {
     {0, "picture.smooth_blur", "Smooth picture (blur)", "Bild glätten (weichzeichnen)"},
     {0, "picture.save_format_frame", "Save format", "Speicherformat"},
     {0, "picture.tiff_compression", "Compression:", "Komprimierung:"},
+    {0, "picture.mode_frame", "Mode", "Modus"},
+    {0, "picture.direction_frame", "Direction", "Richtung"},
 
     // The platform encoders. The missing-encoder text stays German in both
     // languages.

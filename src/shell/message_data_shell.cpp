@@ -106,6 +106,7 @@ constexpr MessageEntry kEntries[] = {
     {0, "main.menu.secure_delete", "Secure delete files ...", "Dateien sicher löschen ..."},
     {0, "main.menu.compress_to_jpg", "Compress picture files to JPEG ...",
      "Bilddateien nach JPEG komprimieren ..."},
+    {0, "main.menu.resize_pictures", "Resize picture ...", "Bildgröße ändern ..."},
     {0, "main.menu.md5_checksums", "Create MD5 checksums", "MD5-Prüfsummen erstellen"},
     {0, "main.menu.sha256_checksums", "Create SHA256 checksums", "SHA256-Prüfsummen erstellen"},
     {0, "main.menu.export_text", "Export file list as text ...",

@@ -1,7 +1,5 @@
-// Compress picture files to JPEG in the window: the dialogue's controls, its
-// preview, and the Tools menu entry end to end.
-#include "compress_dialog.h"
-
+// The picture tools in the window: the compress and resize dialogues, the
+// preview, and the Tools menu entries end to end.
 #include <QAction>
 #include <QApplication>
 #include <QButtonGroup>
@@ -12,15 +10,18 @@
 #include <QPixmap>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QSlider>
 #include <QTimer>
 #include <filesystem>
 
+#include "compress_dialog.h"
 #include "gui/gui_test_support.h"
 #include "main_window.h"
 #include "persist/option_store.h"
 #include "picture/bmp_codec.h"
 #include "picture/picture_file.h"
+#include "resize_dialog.h"
 #include "shell/scripted_interaction.h"
 #include "support/temp_dir.h"
 
@@ -30,10 +31,11 @@ namespace {
 namespace fs = std::filesystem;
 using gui::CompressDialog;
 using gui::MainWindow;
+using gui::ResizeDialog;
 
-class CompressDialogTest : public GuiTest {
+class PictureDialogsTest : public GuiTest {
  protected:
-  CompressDialogTest() : options(config.path() / "Tarnwick.ini") {
+  PictureDialogsTest() : options(config.path() / "Tarnwick.ini") {
     options.SaveOption("LogFilePath", "Options", (config.path() / "Tarnwick.log").string());
     options.SaveOption("UndoFilePath", "Options", config.str());
     options.SaveOption("ReadySound", "Options", "0");
@@ -60,7 +62,7 @@ class CompressDialogTest : public GuiTest {
   const MessageTable& messages = MessageTable::Get(Language::kEnglish);
 };
 
-TEST_F(CompressDialogTest, ControlsGiveTheChoicesAndThePreviewTurns) {
+TEST_F(PictureDialogsTest, ControlsGiveTheChoicesAndThePreviewTurns) {
   CompressDialog dialog(File("wide.bmp"), messages, interaction);
   EXPECT_EQ(Child<QComboBox>(&dialog, "cboSubSample")->currentText(), "2:2   [Default]");
   EXPECT_EQ(dialog.choices().quality, 75);
@@ -99,7 +101,7 @@ TEST_F(CompressDialogTest, ControlsGiveTheChoicesAndThePreviewTurns) {
   EXPECT_EQ(text.preview()->text(), "No preview");
 }
 
-TEST_F(CompressDialogTest, TheToolsMenuWritesTheJpegAndNamesWhatFailed) {
+TEST_F(PictureDialogsTest, TheToolsMenuWritesTheJpegAndNamesWhatFailed) {
   auto window = std::make_unique<MainWindow>(options, messages, &interaction);
   window->ShowFolder(QString::fromStdString((dir.path() / "files").string()));
   window->SelectAll();
@@ -124,6 +126,51 @@ TEST_F(CompressDialogTest, TheToolsMenuWritesTheJpegAndNamesWhatFailed) {
   }
   EXPECT_TRUE(told_count);
   EXPECT_TRUE(named);
+}
+
+TEST_F(PictureDialogsTest, TheResizeDialogueShowsTheControlsOfItsModeAndFormat) {
+  ResizeDialog dialog(messages, interaction);
+  dialog.show();
+  QLineEdit* percent = Child<QLineEdit>(&dialog, "txtPercent");
+  EXPECT_TRUE(percent->isVisible());
+  EXPECT_FALSE(Child<QLineEdit>(&dialog, "txtWidth")->isVisible());
+  percent->setText("abc");
+  emit percent->editingFinished();
+  EXPECT_EQ(percent->text(), "25");
+  Child<QScrollBar>(&dialog, "VSPercent")->setValue(60);
+  EXPECT_EQ(percent->text(), "60");
+  Child<QRadioButton>(&dialog, "optMode_1")->click();
+  EXPECT_FALSE(percent->isVisible());
+  Child<QLineEdit>(&dialog, "txtWidth")->setText("640");
+  EXPECT_TRUE(Child<QSlider>(&dialog, "hscQuality")->isVisible());
+  EXPECT_FALSE(Child<QComboBox>(&dialog, "cboCompressionTIF")->isVisible());
+  Child<QRadioButton>(&dialog, "optSaveFormat_2")->click();
+  EXPECT_FALSE(Child<QSlider>(&dialog, "hscQuality")->isVisible());
+  Child<QComboBox>(&dialog, "cboCompressionTIF")->setCurrentIndex(4);  // "None"
+  const ResizeChoices choices = dialog.choices();
+  EXPECT_FALSE(choices.by_percent);
+  EXPECT_EQ(choices.width, 640);
+  EXPECT_EQ(choices.height, 0);
+  EXPECT_EQ(choices.format, ResizeFormat::kTiff);
+  EXPECT_EQ(choices.tiff, TiffCompression::kNone);
+}
+
+TEST_F(PictureDialogsTest, TheToolsMenuResizes) {
+  auto window = std::make_unique<MainWindow>(options, messages, &interaction);
+  window->ShowFolder(QString::fromStdString((dir.path() / "files").string()));
+  window->SelectAll();
+  QTimer::singleShot(0, [] {
+    ResizeDialog* dialog = nullptr;
+    ASSERT_TRUE(WaitFor(
+        [&] { return (dialog = qobject_cast<ResizeDialog*>(QApplication::activeModalWidget())); }));
+    Child<QRadioButton>(dialog, "optSaveFormat_3")->click();  // PNG
+    Child<QPushButton>(dialog, "cmdStart")->click();
+  });
+  interaction.SetDefault(QuestionKind::kMessageBox, Answer::kOk);
+  window->findChild<QAction*>(QString("mnuResizeJPEG"))->trigger();
+  const LoadedPicture written = LoadPicture(File("wide.png"));
+  ASSERT_TRUE(written.ok()) << written.error;
+  EXPECT_EQ(written.picture.width, 10 + 3);  // a quarter, and the strip
 }
 
 }  // namespace
