@@ -2,9 +2,12 @@
 // preview, and the Tools menu entries end to end.
 #include <QAction>
 #include <QApplication>
+#include <QBuffer>
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QImage>
+#include <QImageReader>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPixmap>
@@ -20,6 +23,7 @@
 #include "main_window.h"
 #include "persist/option_store.h"
 #include "picture/bmp_codec.h"
+#include "picture/jpeg_encoder.h"
 #include "picture/picture_file.h"
 #include "resize_dialog.h"
 #include "shell/scripted_interaction.h"
@@ -126,6 +130,29 @@ TEST_F(PictureDialogsTest, TheToolsMenuWritesTheJpegAndNamesWhatFailed) {
   }
   EXPECT_TRUE(told_count);
   EXPECT_TRUE(named);
+}
+
+// Qt's own JPEG reader takes what our encoder writes, at every layout.
+TEST_F(PictureDialogsTest, QtReadsOurJpegFiles) {
+  RgbPicture picture(17, 33);
+  for (std::size_t i = 0; i < picture.rgb.size(); ++i)
+    picture.rgb[i] = static_cast<std::uint8_t>(i * 7);
+  for (const std::array<int, 6>& f : {std::array{1, 1, 0, 0, 0, 0}, std::array{2, 2, 1, 1, 1, 1},
+                                      std::array{3, 2, 1, 1, 1, 1}, std::array{4, 4, 4, 4, 4, 4}}) {
+    cJPEG encoder;
+    encoder.SetSamplingFrequencies(f[0], f[1], f[2], f[3], f[4], f[5]);
+    ASSERT_EQ(encoder.SampleHDC(picture), 0);
+    const std::vector<std::uint8_t> bytes = encoder.Encode();
+    QByteArray data(reinterpret_cast<const char*>(bytes.data()),
+                    static_cast<qsizetype>(bytes.size()));
+    QBuffer buffer(&data);
+    QImageReader reader(&buffer, "jpeg");
+    const QImage image = reader.read();
+    EXPECT_FALSE(image.isNull()) << f[0] << ":" << f[1] << " "
+                                 << reader.errorString().toStdString();
+    EXPECT_EQ(image.width(), 17);
+    EXPECT_EQ(image.height(), 33);
+  }
 }
 
 TEST_F(PictureDialogsTest, TheResizeDialogueShowsTheControlsOfItsModeAndFormat) {

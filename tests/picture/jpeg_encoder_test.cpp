@@ -131,6 +131,37 @@ TEST(JpegEncoderTest, DecodesToThePictureAtEverySamplingAndScanLayout) {
   }
 }
 
+// Every choice the compress dialogue offers, at awkward sizes and at the
+// ends of the quality scale, decodes without a warning at its size.
+TEST(JpegEncoderTest, EverySamplingOfTheListDecodesAtEverySizeAndQuality) {
+  std::vector<std::pair<int, int>> factors = {{0, 0}};  // greyscale
+  for (const char* item : {"1:1", "1:2", "2:1", "2:2", "1:3", "3:1", "2:3", "3:2", "3:3", "1:4",
+                           "4:1", "2:4", "4:2", "3:4", "4:3", "4:4"}) {
+    factors.emplace_back(item[0] - '0', item[2] - '0');
+  }
+  for (const auto& [h, v] : factors) {
+    for (const auto& [width, height] : {std::pair{1, 1}, std::pair{7, 9}, std::pair{17, 33}}) {
+      for (int quality : {1, 75, 100}) {
+        SCOPED_TRACE(::testing::Message()
+                     << h << ":" << v << " " << width << "x" << height << " q" << quality);
+        cJPEG encoder;
+        encoder.SetQuality(quality);
+        if (h == 0) {
+          encoder.SetSamplingFrequencies(1, 1, 0, 0, 0, 0);
+        } else {
+          encoder.SetSamplingFrequencies(h, v, 1, 1, 1, 1);
+        }
+        ASSERT_EQ(encoder.SampleHDC(TestPicture(width, height)), 0);
+        const auto decoded = DecodeJpeg(encoder.Encode());
+        ASSERT_TRUE(decoded.has_value());
+        EXPECT_EQ(decoded->warning, "");
+        EXPECT_EQ(decoded->picture.width, width);
+        EXPECT_EQ(decoded->picture.height, height);
+      }
+    }
+  }
+}
+
 TEST(JpegEncoderTest, QualityTradesSizeForFidelity) {
   const RgbPicture picture = TestPicture(64, 48);
   double last_psnr = 0;
