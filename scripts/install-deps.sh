@@ -6,6 +6,7 @@
 # qt6-multimedia-dev: the desktop window plays the finish sound through Qt Multimedia.
 # clang, libclang-rt-14-dev: libFuzzer for `make fuzz` and `make fuzz-run`.
 # qt6-translations-l10n: Qt's own texts (Yes/No, file dialogues) in German.
+# libjpeg-turbo-progs: cjpeg, the peer of our JPEG encoder in scripts/bench-pictures.sh.
 # Idempotent: when everything is present it only checks and returns.
 set -euo pipefail
 
@@ -15,7 +16,7 @@ packages=(
   libicu-dev libpcre2-dev libpugixml-dev libssl-dev uuid-dev
   libjpeg62-turbo-dev libpng-dev libtiff-dev libgif-dev
   python3
-  rename strace
+  rename strace libjpeg-turbo-progs
   qt6-base-dev qt6-multimedia-dev qt6-translations-l10n fonts-dejavu-core
   clang libclang-rt-14-dev
 )
