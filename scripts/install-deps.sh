@@ -6,7 +6,8 @@
 # qt6-multimedia-dev: the desktop window plays the finish sound through Qt Multimedia.
 # clang, libclang-rt-14-dev: libFuzzer for `make fuzz` and `make fuzz-run`.
 # qt6-translations-l10n: Qt's own texts (Yes/No, file dialogues) in German.
-# libjpeg-turbo-progs: cjpeg, the peer of our JPEG encoder in scripts/bench-pictures.sh.
+# libjpeg-turbo-progs, imagemagick, libvips-tools: cjpeg, convert and
+#   vipsthumbnail, the peers of the picture tools in scripts/bench-pictures.sh.
 # Idempotent: when everything is present it only checks and returns.
 set -euo pipefail
 
@@ -16,7 +17,7 @@ packages=(
   libicu-dev libpcre2-dev libpugixml-dev libssl-dev uuid-dev
   libjpeg62-turbo-dev libpng-dev libtiff-dev libgif-dev
   python3
-  rename strace libjpeg-turbo-progs
+  rename strace libjpeg-turbo-progs imagemagick libvips-tools
   qt6-base-dev qt6-multimedia-dev qt6-translations-l10n fonts-dejavu-core
   clang libclang-rt-14-dev
 )

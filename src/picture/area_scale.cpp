@@ -69,7 +69,8 @@ RgbPicture ScaleByAreaAveraging(const RgbPicture& source, const PictureRegion& r
     }
     std::uint8_t* out = result.Pixel(0, y);
     for (std::size_t i = 0; i < sums.size(); ++i) {
-      out[i] = static_cast<std::uint8_t>(std::clamp(std::lround(sums[i]), 0L, 255L));
+      // Sums of weights that add up to 1 over bytes: never below 0.
+      out[i] = static_cast<std::uint8_t>(std::min(255.0, sums[i] + 0.5));
     }
   }
   return result;

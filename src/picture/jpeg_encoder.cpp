@@ -150,6 +150,9 @@ int cJPEG::SampleHDC(const RgbPicture& source, int width, int height, const Pict
   height_ = height;
   sampled_tables_ = {tables_[0], tables_[1]};
   components_.assign(static_cast<std::size_t>(component_count_), Component());
+  // The picture at the size of the last component that needed scaling; the
+  // next component of that size takes it again (Cb and Cr usually).
+  RgbPicture scaled;
   for (int c = 0; c < component_count_; ++c) {
     Component& component = components_[static_cast<std::size_t>(c)];
     component.id = c + 1;
@@ -160,21 +163,20 @@ int cJPEG::SampleHDC(const RgbPicture& source, int width, int height, const Pict
     component.height = CeilDiv(static_cast<std::int64_t>(height) * component.v, v_max_);
     component.blocks_x = CeilDiv(component.width, 8);
     component.blocks_y = CeilDiv(component.height, 8);
-    SampleComponent(component, source, region);
+    if (region.width == component.width && region.height == component.height) {
+      SampleComponent(component, source, region.x, region.y);
+      continue;
+    }
+    if (scaled.width != component.width || scaled.height != component.height) {
+      scaled = ScaleByAreaAveraging(source, region, component.width, component.height);
+    }
+    SampleComponent(component, scaled, 0, 0);
   }
   return 0;
 }
 
-void cJPEG::SampleComponent(Component& component, const RgbPicture& source,
-                            const PictureRegion& region) const {
-  // A component of the region's own size reads the source in place.
-  const bool same_size = region.width == component.width && region.height == component.height;
-  const RgbPicture scaled =
-      same_size ? RgbPicture()
-                : ScaleByAreaAveraging(source, region, component.width, component.height);
-  const RgbPicture& plane = same_size ? source : scaled;
-  const int left = same_size ? region.x : 0;
-  const int top = same_size ? region.y : 0;
+void cJPEG::SampleComponent(Component& component, const RgbPicture& plane, int left,
+                            int top) const {
   const QuantTable& table = sampled_tables_[static_cast<std::size_t>(component.table)];
   const int matrix_row = component.id - 1;
   component.data.assign(static_cast<std::size_t>(component.blocks_x) * component.blocks_y * 64, 0);

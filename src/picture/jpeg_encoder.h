@@ -92,9 +92,9 @@ class cJPEG {
   };
 
   void BuildQuantTables();
-  // Scales, transforms and quantises one component into its `data`.
-  void SampleComponent(Component& component, const RgbPicture& source,
-                       const PictureRegion& region) const;
+  // Transforms and quantises one component into its `data`, from `plane`
+  // (already at the component's size) starting at `left`, `top`.
+  void SampleComponent(Component& component, const RgbPicture& plane, int left, int top) const;
 
   int quality_ = 75;
   std::string comment_;

@@ -1,6 +1,7 @@
 // cJPEG: the two passes of SaveFile over the coefficients (Huffman tables
 // made for the picture, then the entropy-coded scans) and the JFIF file.
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <span>
 
@@ -22,9 +23,27 @@ constexpr const char* kCredit =
 // The size category of a value: the bits its magnitude needs. Taken from the
 // natural logarithm as the encoder always has; the constant is a hair above
 // 1/ln 2, so powers of two land on their category and not below it.
+int CategoryByLog(int magnitude) {
+  if (magnitude == 0) return 0;
+  return static_cast<int>(std::log(static_cast<double>(magnitude)) * 1.442695040889) + 1;
+}
+
+// The same for every magnitude a baseline coefficient can have, worked out
+// once.
+const std::array<std::uint8_t, 32768>& CategoryTable() {
+  static const std::array<std::uint8_t, 32768> table = [] {
+    std::array<std::uint8_t, 32768> t{};
+    for (int m = 0; m < 32768; ++m)
+      t[static_cast<std::size_t>(m)] = static_cast<std::uint8_t>(CategoryByLog(m));
+    return t;
+  }();
+  return table;
+}
+
 int Category(int value) {
-  if (value == 0) return 0;
-  return static_cast<int>(std::log(std::abs(static_cast<double>(value))) * 1.442695040889) + 1;
+  const int magnitude = value < 0 ? -value : value;
+  if (magnitude < 32768) return CategoryTable()[static_cast<std::size_t>(magnitude)];
+  return CategoryByLog(magnitude);
 }
 
 // The low `category` bits that stand for `value` after its symbol.
