@@ -1,16 +1,27 @@
 // Random bytes into the picture loader (JPEG, PNG, GIF, TIFF and BMP by
-// their first bytes): nothing may crash, hang or allocate past the pixel
-// limit, and a picture it accepts has the size it says.
+// their first bytes) and, as an EXIF block, into the orientation reset:
+// nothing may crash, hang or allocate past the pixel limit, and a picture it
+// accepts has the size it says.
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 #include <span>
+#include <vector>
 
 #include "picture/bmp_codec.h"
+#include "picture/exif_orientation.h"
 #include "picture/image_buffer.h"
 #include "picture/picture_file.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+  // The same bytes as an EXIF block whose orientation is set to "as stored".
+  std::vector<std::uint8_t> exif = {'E', 'x', 'i', 'f', 0, 0};
+  exif.insert(exif.end(), data, data + size);
+  const std::vector<std::uint8_t> before = exif;
+  if (!tarnwick::ResetExifOrientation(exif) && exif != before)
+    std::abort();  // untouched unless set
+  if (exif.size() != before.size()) std::abort();
+
   const tarnwick::LoadedPicture loaded = tarnwick::DecodePicture(std::span(data, size));
   if (!loaded.ok()) {
     if (!loaded.picture.empty()) std::abort();  // a refusal holds no half picture

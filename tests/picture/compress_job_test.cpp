@@ -187,6 +187,24 @@ TEST_F(CompressJobTest, AKilledJobLeavesEveryPictureOldOrNew) {
   EXPECT_TRUE(saw_partial);
 }
 
+TEST(ExifOrientationTest, BothByteOrdersAndBlocksWithoutTheTag) {
+  for (const char* fixture : {"exif/full_intel.jpg", "exif/full_motorola.jpg"}) {
+    std::vector<std::uint8_t> exif = LoadPicture(std::string(TW_FIXTURE_DIR) + "/" + fixture).exif;
+    ASSERT_FALSE(exif.empty()) << fixture;
+    const std::vector<std::uint8_t> before = exif;
+    ASSERT_TRUE(ResetExifOrientation(exif)) << fixture;
+    // Exactly the two bytes of the value changed, to 1.
+    int changed = 0;
+    for (std::size_t i = 0; i < exif.size(); ++i) changed += exif[i] != before[i];
+    EXPECT_EQ(changed, 1) << fixture;
+    EXPECT_TRUE(ResetExifOrientation(exif)) << fixture;  // again: still found, no change
+  }
+  std::vector<std::uint8_t> junk = {'E', 'x', 'i', 'f', 0, 0, 'X', 'X'};
+  EXPECT_FALSE(ResetExifOrientation(junk));
+  std::vector<std::uint8_t> empty;
+  EXPECT_FALSE(ResetExifOrientation(empty));
+}
+
 TEST(CompressChoicesTest, SubsamplingItemsAndUniqueCopyNames) {
   const MessageTable& english = MessageTable::Get(Language::kEnglish);
   const std::vector<std::string> items = SubsamplingItems(english);
