@@ -113,8 +113,10 @@ int CheckDigests(const ChecksumArgs& args, CliIo& io) {
            << list.bad_lines.front() << ")\n";
   }
   if (list.entries.empty()) return Failure(io, args.check_file + ": no checksum lines found");
-  if (failed > 0) io.err << kProgramName << ": " << failed << " computed checksum(s) did NOT match\n";
-  if (unreadable > 0) io.err << kProgramName << ": " << unreadable << " file(s) could not be read\n";
+  if (failed > 0)
+    io.err << kProgramName << ": " << failed << " computed checksum(s) did NOT match\n";
+  if (unreadable > 0)
+    io.err << kProgramName << ": " << unreadable << " file(s) could not be read\n";
   if (app.CancelRun) io.err << kProgramName << ": cancelled\n";
   return failed + unreadable > 0 || app.CancelRun ? kExitFailure : kExitOk;
 }

@@ -89,7 +89,8 @@ std::optional<std::string> FileArgs::Check() const {
 }
 
 std::optional<std::string> CliJob::List(const FileArgs& files) {
-  return files.from_list.empty() ? ListFiles(files.files) : ListFolder(files.from_list, files.select);
+  return files.from_list.empty() ? ListFiles(files.files)
+                                 : ListFolder(files.from_list, files.select);
 }
 
 RenameRunEnv CliJob::Env() {
@@ -116,13 +117,25 @@ std::optional<int> RunOnFiles(CliJob& job, CliIo& io, std::string_view command,
   return std::nullopt;
 }
 
+int RunConfirmedTool(CliJob& job, CliIo& io, std::string_view command, const FileArgs& files,
+                     const std::function<ToolJobResult(const RenameRunEnv&)>& tool,
+                     std::string_view done_word) {
+  ToolJobResult result;
+  if (auto status = RunOnFiles(job, io, command, files, tool, result)) return *status;
+  if (result.refused) {
+    return Refusal(io, "not confirmed, nothing was touched (answer on a terminal, or add --yes)");
+  }
+  return EndToolJob(io, result, done_word);
+}
+
 int Refusal(CliIo& io, std::string_view why) {
   io.err << kProgramName << ": " << why << '\n';
   return kExitRefused;
 }
 
 int EndToolJob(CliIo& io, const ToolJobResult& result, std::string_view done_word) {
-  for (const std::string& failure : result.failures) io.err << kProgramName << ": " << failure << '\n';
+  for (const std::string& failure : result.failures)
+    io.err << kProgramName << ": " << failure << '\n';
   PrintCounts(io, result.done, done_word, result.skipped, result.failed, result.cancelled);
   return result.failed > 0 || result.cancelled ? kExitFailure : kExitOk;
 }

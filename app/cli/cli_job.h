@@ -10,7 +10,6 @@
 #include "cli_command.h"
 #include "core/rename_settings.h"
 #include "core/start_rename.h"
-#include "tools/tool_job.h"
 #include "filelist/file_list.h"
 #include "filelist/list_loader.h"
 #include "filelist/media_column_source.h"
@@ -20,6 +19,7 @@
 #include "persist/option_store.h"
 #include "shell/app_state.h"
 #include "shell/message_table.h"
+#include "tools/tool_job.h"
 
 namespace tarnwick::cli {
 
@@ -100,6 +100,14 @@ std::optional<int> RunOnFiles(CliJob& job, CliIo& io, std::string_view command,
 // error, then the counts; the exit status (1 when a file failed or the job
 // was cancelled).
 int EndToolJob(CliIo& io, const ToolJobResult& result, std::string_view done_word);
+
+// RunOnFiles, then the end of the job, for a tool that asks before it
+// starts (shred, jpeg --replace, resize --replace): a question answered No
+// (or not asked, off a terminal, without --yes) exits 3 with
+// "not confirmed, nothing was touched".
+int RunConfirmedTool(CliJob& job, CliIo& io, std::string_view command, const FileArgs& files,
+                     const std::function<ToolJobResult(const RenameRunEnv&)>& tool,
+                     std::string_view done_word);
 
 // Exit status of a command whose choices a check of its dialogue refused.
 inline constexpr int kExitRefused = 3;

@@ -83,8 +83,8 @@ std::optional<std::string> ParseArgs(std::span<const std::string> args, CopyMove
   std::vector<std::string> positional;
   for (std::size_t i = 0; i < args.size(); ++i) {
     const std::string& arg = args[i];
-    const bool takes_value = arg == "--date" || arg == "--time" || arg == "--shift" ||
-                             arg == "--batch";
+    const bool takes_value =
+        arg == "--date" || arg == "--time" || arg == "--shift" || arg == "--batch";
     if (takes_value && i + 1 >= args.size()) return arg + " needs a value";
     if (arg == "--overwrite") {
       out.choices.overwrite = true;
@@ -127,7 +127,8 @@ int RunCopyOrMove(std::span<const std::string> raw, CliIo& io, bool move) {
   args.choices.move = move;
   if (auto error = ParseArgs(raw, args)) return UsageError(io, command, *error);
   CliJob job(io, false);
-  if (const std::string problem = CheckCopyMoveTarget(args.choices, job.messages); !problem.empty()) {
+  if (const std::string problem = CheckCopyMoveTarget(args.choices, job.messages);
+      !problem.empty()) {
     std::string text = problem;
     std::erase(text, '\r');
     std::replace(text.begin(), text.end(), '\n', ' ');

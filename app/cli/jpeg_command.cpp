@@ -104,13 +104,8 @@ int RunJpeg(std::span<const std::string> raw, CliIo& io) {
   JpegArgs args;
   if (auto error = ParseJpeg(raw, args)) return UsageError(io, "jpeg", *error);
   CliJob job(io, args.yes, true);
-  ToolJobResult result;
   const auto tool = [&](const RenameRunEnv& env) { return CompressToJpeg(env, args.choices); };
-  if (auto status = RunOnFiles(job, io, "jpeg", args.files, tool, result)) return *status;
-  if (result.refused) {
-    return Refusal(io, "not confirmed, nothing was touched (answer on a terminal, or add --yes)");
-  }
-  return EndToolJob(io, result, "written");
+  return RunConfirmedTool(job, io, "jpeg", args.files, tool, "written");
 }
 
 constexpr std::string_view kJpegDetails =

@@ -10,12 +10,12 @@
 #include "cli_command.h"
 #include "json_text.h"
 #include "persist/option_store.h"
+#include "platform/files.h"
 #include "playlist/copy_titles.h"
 #include "playlist/lost_files.h"
 #include "playlist/playlist_file.h"
 #include "playlist/playlist_length.h"
 #include "playlist/playlist_rows.h"
-#include "platform/files.h"
 #include "shell/message_table.h"
 #include "tsv_text.h"
 
@@ -143,7 +143,8 @@ int Check(const PlaylistArgs& a, CliIo& io) {
   if (rows->empty()) return kExitOk;
   const std::size_t missing = MarkMissingRows(*rows, 0, rows->size() - 1);
   for (std::size_t i = 0; i < rows->size(); ++i) {
-    if ((*rows)[i].red) io.out << "missing\t" << (i + 1) << '\t' << TsvField((*rows)[i].path) << '\n';
+    if ((*rows)[i].red)
+      io.out << "missing\t" << (i + 1) << '\t' << TsvField((*rows)[i].path) << '\n';
   }
   if (missing == 0) {
     io.out << Message("playlist.no_missing_files") << '\n';
@@ -186,8 +187,7 @@ int FindLost(const PlaylistArgs& a, CliIo& io) {
   if (!rows) return kExitFailure;
   if (!FolderExists(a.search)) return Failure(io, a.search + ": no such folder");
   const std::vector<PlaylistRow> before = *rows;
-  const LostFilesProgress end =
-      FindLostFiles(*rows, FullFolder(a.search), a.subfolders, nullptr);
+  const LostFilesProgress end = FindLostFiles(*rows, FullFolder(a.search), a.subfolders, nullptr);
   for (std::size_t i = 0; i < rows->size(); ++i) {
     const PlaylistRow& row = (*rows)[i];
     if (row.path != before[i].path) {
@@ -278,7 +278,8 @@ int RunPlaylist(std::span<const std::string> args, CliIo& io) {
     return UsageError(io, kCommand,
                       a.action + " takes " + std::to_string(action->inputs) + " argument(s)");
   }
-  if (action->needs_out && a.out.empty()) return UsageError(io, kCommand, a.action + " needs --out");
+  if (action->needs_out && a.out.empty())
+    return UsageError(io, kCommand, a.action + " needs --out");
   if (a.remove_missing && a.out.empty()) {
     return UsageError(io, kCommand, "--remove-missing needs --out");
   }
@@ -295,7 +296,8 @@ int RunPlaylist(std::span<const std::string> args, CliIo& io) {
 }
 
 constexpr std::array<CommandForm, 7> kForms = {{
-    {"playlist show FILE [--json]", "list the titles: title, length, path and whether the file exists"},
+    {"playlist show FILE [--json]",
+     "list the titles: title, length, path and whether the file exists"},
     {"playlist convert IN OUT [--overwrite]", "write IN in the format of OUT's extension"},
     {"playlist check FILE [--remove-missing --out OUT] [--overwrite]",
      "report the titles whose files are missing, and drop them"},

@@ -113,13 +113,8 @@ int RunResize(std::span<const std::string> raw, CliIo& io) {
   ResizeArgs args;
   if (auto error = ParseResize(raw, args)) return UsageError(io, "resize", *error);
   CliJob job(io, args.yes, true);
-  ToolJobResult result;
   const auto tool = [&](const RenameRunEnv& env) { return ResizePictures(env, args.choices); };
-  if (auto status = RunOnFiles(job, io, "resize", args.files, tool, result)) return *status;
-  if (result.refused) {
-    return Refusal(io, "not confirmed, nothing was touched (answer on a terminal, or add --yes)");
-  }
-  return EndToolJob(io, result, "written");
+  return RunConfirmedTool(job, io, "resize", args.files, tool, "written");
 }
 
 constexpr std::string_view kResizeDetails =

@@ -3,9 +3,9 @@
 #include <fnmatch.h>
 
 #include <array>
-#include <set>
 #include <filesystem>
 #include <iostream>
+#include <set>
 #include <string>
 
 #include "base/clock.h"

@@ -45,8 +45,9 @@ const std::map<std::string_view, ControlMeaning>& Meanings() {
       {"txtUsePlaceholder", {9, {}, "text with {{...}}"}},
       {"chkEditManual", {10, {}, "0|1 (window only)"}},
       {"chkNumbers", {0, "numbering.caption", "0|1"}},
-      {"optNumber", {0, "numbering.before_prefix",
-                     "0 before prefix|1 after prefix|2 before postfix|3 after postfix"}},
+      {"optNumber",
+       {0, "numbering.before_prefix",
+        "0 before prefix|1 after prefix|2 before postfix|3 after postfix"}},
       {"txtStartNumber", {0, "main.numbering.start", "number"}},
       {"txtLimiter", {0, "numbering.separator", "text"}},
       {"txtStep", {0, "numbering.steps", "number"}},
@@ -87,7 +88,8 @@ void PrintControls(std::ostream& out, const MessageTable& messages) {
     std::string_view values = "text";
     if (found != Meanings().end()) {
       const ControlMeaning& m = found->second;
-      meaning = m.action != 0 ? ActionDisplayName(m.action, messages) : std::string(messages.Text(m.key));
+      meaning =
+          m.action != 0 ? ActionDisplayName(m.action, messages) : std::string(messages.Text(m.key));
       if (!meaning.empty() && meaning.back() == ':') meaning.pop_back();
       values = m.values;
     }

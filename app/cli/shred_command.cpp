@@ -21,7 +21,8 @@ std::optional<std::string> ParseShred(std::span<const std::string> args, ShredAr
       if (i + 1 >= args.size()) return "--passes needs a value";
       char* end = nullptr;
       const long passes = std::strtol(args[++i].c_str(), &end, 10);
-      if (*end != '\0' || passes < 1 || passes > 99) return "--passes takes 1 to 99: '" + args[i] + "'";
+      if (*end != '\0' || passes < 1 || passes > 99)
+        return "--passes takes 1 to 99: '" + args[i] + "'";
       out.passes = static_cast<int>(passes);
     } else if (arg == "--yes" || arg == "-y") {
       out.yes = true;
@@ -42,13 +43,8 @@ int RunShred(std::span<const std::string> raw, CliIo& io) {
   CliJob job(io, args.yes, true);
   const int passes = args.passes > 0 ? args.passes : ShredPasses(job.options);
   SystemRandom random;
-  ToolJobResult result;
   const auto tool = [&](const RenameRunEnv& env) { return SecureDeleteFiles(env, passes, random); };
-  if (auto status = RunOnFiles(job, io, "shred", args.files, tool, result)) return *status;
-  if (result.refused) {
-    return Refusal(io, "not confirmed, nothing was touched (answer on a terminal, or add --yes)");
-  }
-  return EndToolJob(io, result, "shredded");
+  return RunConfirmedTool(job, io, "shred", args.files, tool, "shredded");
 }
 
 constexpr std::string_view kShredDetails =

@@ -40,7 +40,8 @@ std::optional<std::string> ParseSplit(std::span<const std::string> args, SplitAr
   choices.extension = "part";
   for (std::size_t i = 0; i < args.size(); ++i) {
     const std::string& arg = args[i];
-    const bool takes_value = arg == "--size" || arg == "--unit" || arg == "--ext" || arg == "--dest";
+    const bool takes_value =
+        arg == "--size" || arg == "--unit" || arg == "--ext" || arg == "--dest";
     if (takes_value && i + 1 >= args.size()) return arg + " needs a value";
     if (arg == "--size") {
       const std::optional<double> amount = Amount(args[++i]);

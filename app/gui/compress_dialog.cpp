@@ -162,16 +162,7 @@ CompressChoices CompressDialog::choices() const {
 }
 
 bool CompressDialog::Start() {
-  const CompressChoices chosen = choices();
-  if (other_folder_->isChecked() &&
-      (chosen.destination.empty() || !FolderExists(chosen.destination))) {
-    notices_.ShowMessage(
-        {std::string(messages_.Text("run.title_error")),
-         std::string(messages_.Text("picture.destination_missing")) + "\r\n" + chosen.destination,
-         Buttons::kOk, MessageIcon::kExclamation, Topic::kNotice});
-    destination_->setFocus();
-    return false;
-  }
+  if (!DestinationReady(other_folder_, destination_, messages_, notices_)) return false;
   accept();
   return true;
 }

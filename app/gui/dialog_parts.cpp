@@ -11,7 +11,9 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+#include "platform/files.h"
 #include "qt_text.h"
+#include "shell/interaction.h"
 
 namespace tarnwick::gui {
 
@@ -44,6 +46,18 @@ QHBoxLayout* WithBrowse(QLineEdit* field, const MessageTable& messages, QWidget*
   QObject::connect(button, &QPushButton::clicked, parent, browse);
   row->addWidget(button);
   return row;
+}
+
+bool DestinationReady(const QCheckBox* other, QLineEdit* field, const MessageTable& messages,
+                      Interaction& notices) {
+  if (!other->isChecked()) return true;
+  const std::string folder = S(field->text().trimmed());
+  if (!folder.empty() && FolderExists(folder)) return true;
+  notices.ShowMessage({std::string(messages.Text("run.title_error")),
+                       std::string(messages.Text("picture.destination_missing")) + "\r\n" + folder,
+                       Buttons::kOk, MessageIcon::kExclamation, Topic::kNotice});
+  field->setFocus();
+  return false;
 }
 
 QButtonGroup* RadioFrame(const MessageTable& messages, const char* frame_key, const char* name,

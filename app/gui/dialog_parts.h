@@ -14,6 +14,10 @@ class QHBoxLayout;
 class QLineEdit;
 class QWidget;
 
+namespace tarnwick {
+class Interaction;
+}
+
 namespace tarnwick::gui {
 
 // Pieces the tool dialogues share.
@@ -29,6 +33,12 @@ QDialogButtonBox* StartCancel(const MessageTable& messages, QDialog* dialog,
 // A field with a "..." button beside it (`cmdBrowse`) that fills it.
 QHBoxLayout* WithBrowse(QLineEdit* field, const MessageTable& messages, QWidget* parent,
                         const std::function<void()>& browse);
+
+// "Different destination directory": with `other` ticked, `field` must name
+// an existing folder; otherwise the box "The destination folder does not
+// exist:" is shown, the field gets the focus, and the result is false.
+bool DestinationReady(const QCheckBox* other, QLineEdit* field, const MessageTable& messages,
+                      Interaction& notices);
 
 // A frame titled by `frame_key` holding one radio button per key, added to
 // `into`; the buttons are named `name`_0, `name`_1 ... and their ids are

@@ -9,7 +9,6 @@
 #include "picture/picture_writers.h"
 
 #include <png.h>
-#include <tiffio.h>
 
 #include <algorithm>
 #include <csetjmp>
@@ -17,6 +16,7 @@
 #include <memory>
 
 #include "base/text.h"
+#include "picture/tiff_memory.h"
 
 namespace tarnwick {
 namespace {
@@ -31,47 +31,6 @@ void JumpOut(j_common_ptr info) {
   auto* errors = reinterpret_cast<JpegErrors*>(info->err);
   (*info->err->format_message)(info, errors->last);
   std::longjmp(errors->jump, 1);
-}
-
-// A growing file in memory for libtiff.
-struct MemoryFile {
-  std::vector<std::uint8_t> bytes;
-  toff_t at = 0;
-};
-
-tmsize_t TiffRead(thandle_t handle, void* buffer, tmsize_t size) {
-  auto* file = static_cast<MemoryFile*>(handle);
-  if (size <= 0 || file->at >= file->bytes.size()) return 0;
-  const auto count =
-      std::min<std::size_t>(static_cast<std::size_t>(size), file->bytes.size() - file->at);
-  std::memcpy(buffer, file->bytes.data() + file->at, count);
-  file->at += count;
-  return static_cast<tmsize_t>(count);
-}
-tmsize_t TiffWrite(thandle_t handle, void* buffer, tmsize_t size) {
-  auto* file = static_cast<MemoryFile*>(handle);
-  if (size <= 0) return 0;
-  const auto count = static_cast<std::size_t>(size);
-  if (file->at + count > file->bytes.size()) file->bytes.resize(file->at + count);
-  std::memcpy(file->bytes.data() + file->at, buffer, count);
-  file->at += count;
-  return size;
-}
-toff_t TiffSeek(thandle_t handle, toff_t offset, int whence) {
-  auto* file = static_cast<MemoryFile*>(handle);
-  const toff_t base = whence == SEEK_CUR ? file->at : whence == SEEK_END ? file->bytes.size() : 0;
-  file->at = base + offset;
-  return file->at;
-}
-int TiffClose(thandle_t) { return 0; }
-toff_t TiffSize(thandle_t handle) { return static_cast<MemoryFile*>(handle)->bytes.size(); }
-
-thread_local std::string tiff_complaint;
-int KeepComplaint(TIFF*, void*, const char*, const char* format, va_list arguments) {
-  char text[512];
-  std::vsnprintf(text, sizeof text, format, arguments);
-  tiff_complaint = text;
-  return 1;
 }
 
 // Each pixel black (1) or white (0) by its grey, eight to a byte.
@@ -154,17 +113,13 @@ std::vector<std::uint8_t> EncodePng(const cImage& image, std::string& error) {
 std::vector<std::uint8_t> EncodeTiff(const cImage& image, TiffCompression compression,
                                      std::string& error) {
   const RgbPicture rgb = image.ToRgb();
-  MemoryFile file;
-  tiff_complaint.clear();
-  std::unique_ptr<TIFFOpenOptions, decltype(&TIFFOpenOptionsFree)> options(TIFFOpenOptionsAlloc(),
-                                                                           &TIFFOpenOptionsFree);
-  TIFFOpenOptionsSetErrorHandlerExtR(options.get(), KeepComplaint, nullptr);
-  TIFF* tiff = TIFFClientOpenExt("memory", "w", &file, TiffRead, TiffWrite, TiffSeek, TiffClose,
-                                 TiffSize, nullptr, nullptr, options.get());
-  if (tiff == nullptr) {
-    error = tiff_complaint;
+  TiffMemory memory;
+  TiffHandle handle = OpenTiffMemory(memory, "w");
+  if (!handle) {
+    error = memory.complaint;
     return {};
   }
+  TIFF* tiff = handle.get();
   const bool bilevel = compression == TiffCompression::kCcitt3 ||
                        compression == TiffCompression::kCcitt4 ||
                        compression == TiffCompression::kRle;
@@ -188,12 +143,13 @@ std::vector<std::uint8_t> EncodeTiff(const cImage& image, TiffCompression compre
                 : std::vector<std::uint8_t>(rgb.Pixel(0, y), rgb.Pixel(0, y) + rgb.width * 3);
     written = TIFFWriteScanline(tiff, row.data(), static_cast<std::uint32_t>(y), 0) == 1;
   }
-  TIFFClose(tiff);
+  if (written) written = TIFFFlush(tiff) == 1;
+  handle.reset();  // the file is whole only once closed
   if (!written) {
-    error = tiff_complaint;
+    error = memory.complaint;
     return {};
   }
-  return std::move(file.bytes);
+  return std::move(memory.bytes);
 }
 
 }  // namespace tarnwick
