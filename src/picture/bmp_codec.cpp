@@ -43,7 +43,7 @@ struct Header {
   std::size_t pixels_at = 0;
 };
 
-std::string ReadHeader(std::span<const std::uint8_t> bytes, Header& h) {
+std::string ReadHeader(std::span<const std::uint8_t> bytes, Header& h, std::int64_t max_pixels) {
   if (bytes.size() < 26) return "the BMP header is cut short";
   h.pixels_at = Little(bytes, 10, 4);
   const std::uint32_t info_size = Little(bytes, 14, 4);
@@ -82,7 +82,7 @@ std::string ReadHeader(std::span<const std::uint8_t> bytes, Header& h) {
                                  (h.compression == kBitFields && (h.bits == 16 || h.bits == 32));
   if (!known_compression) return "this kind of BMP compression cannot be read";
   if (h.colours > 256) return "the BMP colour table is too large";
-  return CheckPictureSize(h.width, h.height < 0 ? -h.height : h.height);
+  return CheckPictureSize(h.width, h.height < 0 ? -h.height : h.height, max_pixels);
 }
 
 // Run-length data into one index per pixel, rows bottom-up; pixels the data
@@ -133,10 +133,10 @@ bool DecodeRle(std::span<const std::uint8_t> bytes, const Header& h,
 
 }  // namespace
 
-LoadedPicture DecodeBmp(std::span<const std::uint8_t> bytes) {
+LoadedPicture DecodeBmp(std::span<const std::uint8_t> bytes, std::int64_t max_pixels) {
   LoadedPicture result;
   Header h;
-  result.error = ReadHeader(bytes, h);
+  result.error = ReadHeader(bytes, h, max_pixels);
   if (!result.ok()) return result;
   const bool top_down = h.height < 0;
   const int width = static_cast<int>(h.width);

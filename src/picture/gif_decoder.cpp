@@ -52,7 +52,7 @@ int TransparentIndex(const SavedImage& frame) {
 
 }  // namespace
 
-LoadedPicture DecodeGif(std::span<const std::uint8_t> bytes) {
+LoadedPicture DecodeGif(std::span<const std::uint8_t> bytes, std::int64_t max_pixels) {
   LoadedPicture result;
   MemoryReader reader{bytes};
   int error = 0;
@@ -61,7 +61,7 @@ LoadedPicture DecodeGif(std::span<const std::uint8_t> bytes) {
     result.error = std::string("the GIF data cannot be read (") + ErrorWords(error) + ")";
     return result;
   }
-  result.error = CheckPictureSize(gif->SWidth, gif->SHeight);
+  result.error = CheckPictureSize(gif->SWidth, gif->SHeight, max_pixels);
   if (!result.ok()) return result;
   if (DGifSlurp(gif.get()) != GIF_OK && gif->ImageCount == 0) {
     result.error = std::string("the GIF data are damaged (") + ErrorWords(gif->Error) + ")";

@@ -49,7 +49,7 @@ std::vector<std::uint8_t> ExifOf(const jpeg_decompress_struct& info) {
 
 }  // namespace
 
-LoadedPicture DecodeJpeg(std::span<const std::uint8_t> bytes) {
+LoadedPicture DecodeJpeg(std::span<const std::uint8_t> bytes, std::int64_t max_pixels) {
   LoadedPicture result;
   jpeg_decompress_struct info{};
   Errors errors;
@@ -67,7 +67,7 @@ LoadedPicture DecodeJpeg(std::span<const std::uint8_t> bytes) {
   jpeg_mem_src(&info, bytes.data(), static_cast<unsigned long>(bytes.size()));
   jpeg_save_markers(&info, JPEG_APP0 + 1, 0xFFFF);
   jpeg_read_header(&info, TRUE);
-  result.error = CheckPictureSize(info.image_width, info.image_height);
+  result.error = CheckPictureSize(info.image_width, info.image_height, max_pixels);
   if (!result.ok()) {
     jpeg_destroy_decompress(&info);
     return result;

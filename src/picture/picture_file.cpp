@@ -19,24 +19,24 @@ LoadedPicture Refused(std::string why) {
 
 }  // namespace
 
-std::string CheckPictureSize(std::int64_t width, std::int64_t height) {
+std::string CheckPictureSize(std::int64_t width, std::int64_t height, std::int64_t max_pixels) {
   if (width <= 0 || height <= 0) return "the picture has no size";
-  if (width * height > kMaxPicturePixels) {
+  if (width * height > max_pixels) {
     return "the picture is too large (" + std::to_string(width) + " x " + std::to_string(height) +
-           " pixels; at most " + std::to_string(kMaxPicturePixels / 1'000'000) +
-           " million are read)";
+           " pixels; at most " + std::to_string(max_pixels) + " are read)";
   }
   return {};
 }
 
-LoadedPicture DecodePicture(std::span<const std::uint8_t> bytes) {
-  if (StartsWith(bytes, {0xFF, 0xD8})) return DecodeJpeg(bytes);
-  if (StartsWith(bytes, {0x89, 'P', 'N', 'G', 0x0D, 0x0A, 0x1A, 0x0A})) return DecodePng(bytes);
-  if (StartsWith(bytes, {'G', 'I', 'F', '8'})) return DecodeGif(bytes);
+LoadedPicture DecodePicture(std::span<const std::uint8_t> bytes, std::int64_t max_pixels) {
+  if (StartsWith(bytes, {0xFF, 0xD8})) return DecodeJpeg(bytes, max_pixels);
+  if (StartsWith(bytes, {0x89, 'P', 'N', 'G', 0x0D, 0x0A, 0x1A, 0x0A}))
+    return DecodePng(bytes, max_pixels);
+  if (StartsWith(bytes, {'G', 'I', 'F', '8'})) return DecodeGif(bytes, max_pixels);
   if (StartsWith(bytes, {'I', 'I', 42, 0}) || StartsWith(bytes, {'M', 'M', 0, 42})) {
-    return DecodeTiff(bytes);
+    return DecodeTiff(bytes, max_pixels);
   }
-  if (StartsWith(bytes, {'B', 'M'})) return DecodeBmp(bytes);
+  if (StartsWith(bytes, {'B', 'M'})) return DecodeBmp(bytes, max_pixels);
   if (StartsWith(bytes, {0xD7, 0xCD, 0xC6, 0x9A}) || StartsWith(bytes, {0x01, 0x00, 0x09, 0x00})) {
     return Refused("Windows metafiles (WMF) cannot be read");
   }

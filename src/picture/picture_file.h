@@ -33,18 +33,21 @@ inline constexpr std::uint64_t kMaxPictureFileBytes = 512ULL << 20;
 // reader). Transparent pixels come out white. A picture with damaged data is
 // refused rather than read in part, so a job never replaces a photograph by
 // its grey remains. WMF and other formats give a clear error.
+// `max_pixels` lowers the limit (the fuzz targets keep each input quick).
 LoadedPicture LoadPicture(const std::string& path);
 // The same for bytes in memory.
-LoadedPicture DecodePicture(std::span<const std::uint8_t> bytes);
+LoadedPicture DecodePicture(std::span<const std::uint8_t> bytes,
+                            std::int64_t max_pixels = kMaxPicturePixels);
 
 // The decoders, one per format; each expects bytes of its format.
-LoadedPicture DecodeJpeg(std::span<const std::uint8_t> bytes);
-LoadedPicture DecodePng(std::span<const std::uint8_t> bytes);
-LoadedPicture DecodeGif(std::span<const std::uint8_t> bytes);
-LoadedPicture DecodeTiff(std::span<const std::uint8_t> bytes);
-LoadedPicture DecodeBmp(std::span<const std::uint8_t> bytes);
+LoadedPicture DecodeJpeg(std::span<const std::uint8_t> bytes, std::int64_t max_pixels);
+LoadedPicture DecodePng(std::span<const std::uint8_t> bytes, std::int64_t max_pixels);
+LoadedPicture DecodeGif(std::span<const std::uint8_t> bytes, std::int64_t max_pixels);
+LoadedPicture DecodeTiff(std::span<const std::uint8_t> bytes, std::int64_t max_pixels);
+LoadedPicture DecodeBmp(std::span<const std::uint8_t> bytes, std::int64_t max_pixels);
 
 // A decoder's refusal of a size: empty when width by height may be read.
-std::string CheckPictureSize(std::int64_t width, std::int64_t height);
+std::string CheckPictureSize(std::int64_t width, std::int64_t height,
+                             std::int64_t max_pixels = kMaxPicturePixels);
 
 }  // namespace tarnwick

@@ -6,7 +6,7 @@
 
 namespace tarnwick {
 
-LoadedPicture DecodePng(std::span<const std::uint8_t> bytes) {
+LoadedPicture DecodePng(std::span<const std::uint8_t> bytes, std::int64_t max_pixels) {
   LoadedPicture result;
   png_image image{};
   image.version = PNG_IMAGE_VERSION;
@@ -14,7 +14,7 @@ LoadedPicture DecodePng(std::span<const std::uint8_t> bytes) {
     result.error = std::string("the PNG data cannot be read (") + image.message + ")";
     return result;
   }
-  result.error = CheckPictureSize(image.width, image.height);
+  result.error = CheckPictureSize(image.width, image.height, max_pixels);
   if (!result.ok()) {
     png_image_free(&image);
     return result;

@@ -12,7 +12,7 @@
 
 namespace tarnwick {
 
-LoadedPicture DecodeTiff(std::span<const std::uint8_t> bytes) {
+LoadedPicture DecodeTiff(std::span<const std::uint8_t> bytes, std::int64_t max_pixels) {
   LoadedPicture result;
   TiffMemory memory;
   memory.input = bytes;
@@ -25,7 +25,7 @@ LoadedPicture DecodeTiff(std::span<const std::uint8_t> bytes) {
   std::uint32_t height = 0;
   TIFFGetField(tiff.get(), TIFFTAG_IMAGEWIDTH, &width);
   TIFFGetField(tiff.get(), TIFFTAG_IMAGELENGTH, &height);
-  result.error = CheckPictureSize(width, height);
+  result.error = CheckPictureSize(width, height, max_pixels);
   if (!result.ok()) return result;
   char why[1024] = {};
   if (TIFFRGBAImageOK(tiff.get(), why) == 0) {

@@ -191,6 +191,16 @@ TEST(PictureFileTest, DamagedHostileAndUnknownDataAreRefusedWithAReason) {
                                         0,   0,   0x10, 0x30, 0,  0, 1, 0, 24,   0};
   bmp_huge.resize(54, 0);
   EXPECT_THAT(DecodePicture(bmp_huge).error, HasSubstr("too large"));
+  // A run-length BMP needs no data for its pixels: a few bytes may declare
+  // 16 million of them. Within the limit that is read; a lower limit refuses.
+  const std::vector<std::uint8_t> tiny_rle = [] {
+    std::vector<std::uint8_t> bmp = {'B', 'M',  0, 0, 0, 0, 0, 0, 0, 0, 62, 0, 0, 0, 40, 0, 0,
+                                     0,   0x02, 0, 0, 1, 1, 0, 0, 0, 1, 0,  8, 0, 1, 0,  0, 0};
+    bmp.resize(62, 0);
+    bmp.insert(bmp.end(), {0, 1});  // end of picture at once
+    return bmp;
+  }();
+  EXPECT_THAT(DecodePicture(tiny_rle, 4'000'000).error, HasSubstr("too large"));
 
   const std::vector<std::uint8_t> gif_without_frames = {'G', 'I', 'F', '8', '9', 'a', 1,
                                                         0,   1,   0,   0,   0,   0,   0x3B};
