@@ -108,7 +108,7 @@ const std::vector<std::uint8_t> kGif = {
     255,  0,    0,    0,    0,   255,                          // red, blue
     0x21, 0xF9, 4,    0x01, 0,   0,   1, 0,                    // transparent index 1
     0x2C, 0,    0,    0,    0,   2,   0, 1, 0, 0,              // the frame
-    2,    2,    0x44, 0x01, 0,                                 // LZW: indices 0, 1
+    2,    2,    0x44, 0x0A, 0,                                 // LZW: indices 0, 1
     0x3B};
 
 TEST(PictureFileTest, EachFormatIsReadByItsContent) {
@@ -205,6 +205,9 @@ TEST(PictureFileTest, DamagedHostileAndUnknownDataAreRefusedWithAReason) {
   const std::vector<std::uint8_t> gif_without_frames = {'G', 'I', 'F', '8', '9', 'a', 1,
                                                         0,   1,   0,   0,   0,   0,   0x3B};
   EXPECT_FALSE(DecodePicture(gif_without_frames).ok());
+  // A frame whose pixel data stop early is refused, not read half.
+  const std::vector<std::uint8_t> cut_gif(kGif.begin(), kGif.end() - 4);
+  EXPECT_THAT(DecodePicture(cut_gif).error, HasSubstr("GIF damaged"));
   EXPECT_THAT(DecodePicture(std::vector<std::uint8_t>{0xD7, 0xCD, 0xC6, 0x9A, 0, 0}).error,
               HasSubstr("WMF"));
   EXPECT_THAT(DecodePicture(std::vector<std::uint8_t>{'h', 'e', 'l', 'l', 'o'}).error,
