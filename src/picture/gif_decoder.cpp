@@ -54,13 +54,13 @@ std::string ReadFirstFrame(GifFileType* gif, std::int64_t max_pixels, FirstFrame
   for (;;) {
     GifRecordType record;
     if (DGifGetRecordType(gif, &record) != GIF_OK)
-      return "damaged (" + ErrorWords(gif->Error) + ")";
+      return "data are damaged (" + ErrorWords(gif->Error) + ")";
     if (record == TERMINATE_RECORD_TYPE) return "holds no picture";
     if (record == EXTENSION_RECORD_TYPE) {
       int code = 0;
       GifByteType* block = nullptr;
       if (DGifGetExtension(gif, &code, &block) != GIF_OK)
-        return "damaged (" + ErrorWords(gif->Error) + ")";
+        return "data are damaged (" + ErrorWords(gif->Error) + ")";
       GraphicsControlBlock control;
       if (code == GRAPHICS_EXT_FUNC_CODE && block != nullptr &&
           DGifExtensionToGCB(block[0], block + 1, &control) == GIF_OK) {
@@ -68,12 +68,12 @@ std::string ReadFirstFrame(GifFileType* gif, std::int64_t max_pixels, FirstFrame
       }
       while (block != nullptr) {
         if (DGifGetExtensionNext(gif, &block) != GIF_OK)
-          return "damaged (" + ErrorWords(gif->Error) + ")";
+          return "data are damaged (" + ErrorWords(gif->Error) + ")";
       }
       continue;
     }
     if (record != IMAGE_DESC_RECORD_TYPE) continue;
-    if (DGifGetImageDesc(gif) != GIF_OK) return "damaged (" + ErrorWords(gif->Error) + ")";
+    if (DGifGetImageDesc(gif) != GIF_OK) return "data are damaged (" + ErrorWords(gif->Error) + ")";
     const GifImageDesc& place = gif->Image;
     if (const std::string size = CheckPictureSize(place.Width, place.Height, max_pixels);
         !size.empty()) {
@@ -96,7 +96,7 @@ std::string ReadFirstFrame(GifFileType* gif, std::int64_t max_pixels, FirstFrame
            y += place.Interlace ? kStep[pass] : 1) {
         if (DGifGetLine(gif, frame.pixels.data() + static_cast<std::size_t>(y) * place.Width,
                         place.Width) != GIF_OK) {
-          return "damaged (" + ErrorWords(gif->Error) + ")";
+          return "data are damaged (" + ErrorWords(gif->Error) + ")";
         }
       }
     }

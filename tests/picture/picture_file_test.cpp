@@ -207,7 +207,7 @@ TEST(PictureFileTest, DamagedHostileAndUnknownDataAreRefusedWithAReason) {
   EXPECT_FALSE(DecodePicture(gif_without_frames).ok());
   // A frame whose pixel data stop early is refused, not read half.
   const std::vector<std::uint8_t> cut_gif(kGif.begin(), kGif.end() - 4);
-  EXPECT_THAT(DecodePicture(cut_gif).error, HasSubstr("GIF damaged"));
+  EXPECT_THAT(DecodePicture(cut_gif).error, HasSubstr("GIF data are damaged"));
   EXPECT_THAT(DecodePicture(std::vector<std::uint8_t>{0xD7, 0xCD, 0xC6, 0x9A, 0, 0}).error,
               HasSubstr("WMF"));
   EXPECT_THAT(DecodePicture(std::vector<std::uint8_t>{'h', 'e', 'l', 'l', 'o'}).error,
