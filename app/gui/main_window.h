@@ -221,7 +221,7 @@ class MainWindow : public QMainWindow, public ProgressView {
   void ShowRunSummary(const RenameRunResult& result);
   // The files a tool failed on, in a box; nothing when none failed.
   // The failed files of a tool job, named, under the title of `title_key`.
-  void ShowToolFailures(const ToolJobResult& result, const char* title_key = "copymove.title");
+  void ShowToolFailures(const ToolJobResult& result, const char* title_key);
   void ViewSelectionToList();
   void ListSelectionToView();
   void RestartNewNames();

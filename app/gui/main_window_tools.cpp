@@ -45,7 +45,7 @@ void MainWindow::CopyMoveFiles() {
   new_name_timer_.stop();
   const ToolJobResult result = tarnwick::CopyMoveFiles(RunEnv(), choices);
   AfterJob();
-  ShowToolFailures(result);
+  ShowToolFailures(result, "copymove.title");
 }
 
 void MainWindow::RenameFromTextFile() {
@@ -79,7 +79,7 @@ void MainWindow::SplitSelectedFiles() {
   new_name_timer_.stop();
   const ToolJobResult result = SplitFiles(RunEnv(), dialog.choices());
   AfterJob();
-  ShowToolFailures(result);
+  ShowToolFailures(result, "split.title");
 }
 
 void MainWindow::MergeSelectedFiles() {
