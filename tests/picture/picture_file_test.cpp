@@ -205,6 +205,15 @@ TEST(PictureFileTest, DamagedHostileAndUnknownDataAreRefusedWithAReason) {
   const std::vector<std::uint8_t> gif_without_frames = {'G', 'I', 'F', '8', '9', 'a', 1,
                                                         0,   1,   0,   0,   0,   0,   0x3B};
   EXPECT_FALSE(DecodePicture(gif_without_frames).ok());
+  // A frame far larger than its screen is refused before it is read.
+  std::vector<std::uint8_t> huge_frame = kGif;
+  const std::size_t frame_at = 13 + 6 + 8;  // header, colours, control block
+  ASSERT_EQ(huge_frame[frame_at], 0x2C);
+  for (std::size_t i : {frame_at + 5, frame_at + 7}) {
+    huge_frame[i] = 0x60;  // 60,000 wide and high
+    huge_frame[i + 1] = 0xEA;
+  }
+  EXPECT_THAT(DecodePicture(huge_frame).error, HasSubstr("GIF is too large"));
   // A frame whose pixel data stop early is refused, not read half.
   const std::vector<std::uint8_t> cut_gif(kGif.begin(), kGif.end() - 4);
   EXPECT_THAT(DecodePicture(cut_gif).error, HasSubstr("GIF data are damaged"));
