@@ -89,8 +89,8 @@ class FileList {
   // --- Sorting (`MultiSortListView`): by the first column, ties by the next,
   // remaining ties keep their order. Sizes (1 and 9) sort by the number of
   // bytes, the date column by its time stamp, the name column in the name
-  // order, the rest as texts without regard to case. An empty list of columns, or a column outside 0 to 10,
-  // leaves the order. The columns are remembered for `RestoreSort`.
+  // order, the rest as texts without regard to case. An empty list of columns, or a column outside
+  // 0 to 10, leaves the order. The columns are remembered for `RestoreSort`.
   void MultiSortListView(std::span<const SortColumn> columns);
   // Sorts by the last columns given, if any (after a fill).
   void RestoreSort();
@@ -102,6 +102,8 @@ class FileList {
 
  private:
   bool Valid(std::size_t row) const { return row < rows_.size(); }
+  // The order of two rows by a column other than the name (which sorts by
+  // NameRanks).
   int CompareRows(const FileRow& a, const FileRow& b, int column) const;
   // Each row's place in name order, for a sort by the name column.
   std::vector<std::uint32_t> NameRanks() const;

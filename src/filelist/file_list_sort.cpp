@@ -35,8 +35,6 @@ bool SortableColumn(int column) { return column >= 0 && column < file_column::kC
 int FileList::CompareRows(const FileRow& a, const FileRow& b, int column) const {
   namespace fc = file_column;
   switch (column) {
-    case fc::kName:
-      return name_order().Compare(a.name, b.name);
     case fc::kSize:
     case fc::kSizeBytes:
       return CompareValues(a.size, b.size);
@@ -91,7 +89,8 @@ void FileList::MultiSortListView(std::span<const SortColumn> columns) {
   const bool by_name = std::any_of(columns.begin(), columns.end(), [](const SortColumn& c) {
     return c.column == file_column::kName;
   });
-  const std::vector<std::uint32_t> name_ranks = by_name ? NameRanks() : std::vector<std::uint32_t>();
+  const std::vector<std::uint32_t> name_ranks =
+      by_name ? NameRanks() : std::vector<std::uint32_t>();
   std::vector<std::size_t> order(rows_.size());
   std::iota(order.begin(), order.end(), std::size_t{0});
   std::stable_sort(order.begin(), order.end(), [&](std::size_t x, std::size_t y) {

@@ -4,7 +4,6 @@
 
 #include "base/path_text.h"
 #include "base/vb_error.h"
-#include "core/file_date_time.h"
 #include "filelist/file_list.h"
 #include "persist/option_store.h"
 #include "picture/exif_orientation.h"

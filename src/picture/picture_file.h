@@ -33,9 +33,9 @@ inline constexpr std::uint64_t kMaxPictureFileBytes = 512ULL << 20;
 // reader). Transparent pixels come out white. A picture with damaged data is
 // refused rather than read in part, so a job never replaces a photograph by
 // its grey remains. WMF and other formats give a clear error.
-// `max_pixels` lowers the limit (the fuzz targets keep each input quick).
 LoadedPicture LoadPicture(const std::string& path);
-// The same for bytes in memory.
+// The same for bytes in memory; `max_pixels` lowers the limit (the fuzz
+// targets keep each input quick).
 LoadedPicture DecodePicture(std::span<const std::uint8_t> bytes,
                             std::int64_t max_pixels = kMaxPicturePixels);
 
