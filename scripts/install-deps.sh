@@ -8,6 +8,7 @@
 # qt6-translations-l10n: Qt's own texts (Yes/No, file dialogues) in German.
 # libjpeg-turbo-progs, imagemagick, libvips-tools: cjpeg, convert and
 #   vipsthumbnail, the peers of the picture tools in scripts/bench-pictures.sh.
+# libxml2-utils: xmllint, which the tests ask whether an XML export is well-formed.
 # Idempotent: when everything is present it only checks and returns.
 set -euo pipefail
 
@@ -17,7 +18,7 @@ packages=(
   libicu-dev libpcre2-dev libpugixml-dev libssl-dev uuid-dev
   libjpeg62-turbo-dev libpng-dev libtiff-dev libgif-dev
   python3
-  rename strace libjpeg-turbo-progs imagemagick libvips-tools
+  rename strace libjpeg-turbo-progs imagemagick libvips-tools libxml2-utils
   qt6-base-dev qt6-multimedia-dev qt6-translations-l10n fonts-dejavu-core
   clang libclang-rt-14-dev
 )

@@ -56,6 +56,8 @@ class CliJob {
   std::optional<std::string> List(const FileArgs& files);
 
   RenameRunEnv Env();
+  // The loader the list was filled by, for a job that reads folders anew.
+  FileListLoader& loader() { return loader_; }
 
   OptionStore options;
   AppState app;

@@ -28,6 +28,7 @@ extern const Command kShredCommand;
 extern const Command kChecksumCommand;
 extern const Command kJpegCommand;
 extern const Command kResizeCommand;
+extern const Command kExportCommand;
 
 std::span<const Command> AllCommands() {
   static const std::array kCommands = {
@@ -36,7 +37,7 @@ std::span<const Command> AllCommands() {
       kTagsCommand,     kExifCommand,    kWmaCommand,       kReportCommand,
       kPlaylistCommand, kCopyCommand,    kMoveCommand,      kRenameFromTextCommand,
       kSplitCommand,    kMergeCommand,   kShredCommand,     kChecksumCommand,
-      kJpegCommand,     kResizeCommand,
+      kJpegCommand,     kResizeCommand,  kExportCommand,
   };
   return kCommands;
 }

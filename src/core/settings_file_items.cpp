@@ -4,6 +4,7 @@
 #include <string>
 
 #include "core/action_order.h"
+#include "core/product_info.h"
 #include "persist/option_store.h"
 
 namespace tarnwick {
@@ -22,8 +23,6 @@ constexpr std::array<std::string_view, 29> kControls = {
     "txtUsePlaceholder",
 };
 
-// The maker's line has no bearing on reading.
-constexpr std::string_view kCopyrightLine = "(c) 2001-2026 Oakhollow";
 constexpr std::string_view kAttention = "PLEASE DO NOT ALTER THESE FILE!!!!";
 
 }  // namespace
@@ -44,7 +43,7 @@ std::vector<SettingsItem> SettingsFileItems(const RenameSettings& settings,
   std::vector<SettingsItem> items;
   const std::string defaults(kDefaultsSection);
   items.push_back({"Warnings", "Attention", std::string(kAttention)});
-  items.push_back({"Copyright", "by", std::string(kCopyrightLine)});
+  items.push_back({"Copyright", "by", std::string(kMakerCopyright)});
   items.push_back({"Tarnwick", "Version", std::string(kSettingsFileVersion)});
   items.push_back({"File", "LastModified", std::string(last_modified)});
   items.push_back({defaults, "CurrentDir", std::string(current_dir)});

@@ -4,6 +4,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/product_info.h"
 #include "core/rename_settings.h"
 
 namespace tarnwick {
@@ -49,6 +50,6 @@ struct RadioGroup {
 std::vector<RadioGroup> SettingsFileRadioGroups();
 
 // The version text written to `Tarnwick/Version`.
-inline constexpr std::string_view kSettingsFileVersion = "v2.97.0";
+inline constexpr std::string_view kSettingsFileVersion = kProductVersion;
 
 }  // namespace tarnwick

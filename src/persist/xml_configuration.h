@@ -66,6 +66,18 @@ class XMLConfiguration {
   bool Encryption() const { return encryption_; }
   void Encryption(bool on) { encryption_ = on; }
 
+  // The file's bytes are the document's UTF-8 text as it stands, with no
+  // Windows-1252 step: what an XML reader expects of a document whose
+  // declaration names no encoding. The list export writes so; the settings
+  // files keep the older bytes.
+  bool Utf8Text() const { return utf8_; }
+  void Utf8Text(bool on) { utf8_ = on; }
+
+  // Remembers `path` and starts an empty document (the declaration and the
+  // root) without reading or writing anything; the first save puts it in
+  // place of whatever the file holds.
+  void StartNewFile(std::string_view path);
+
   // Remembers `path`. When no file is there: without `create` returns false;
   // with it, makes a document of the declaration and an empty root, saves it
   // at once and returns true. When a file is there: reads it whole,
@@ -108,6 +120,7 @@ class XMLConfiguration {
   std::string path_;
   std::string key_;
   bool encryption_ = false;
+  bool utf8_ = false;
   std::unique_ptr<Document> document_;
   bool parse_failed_ = false;
   int parse_status_ = 0;

@@ -10,11 +10,13 @@
 
 namespace tarnwick {
 
-ToolJob::ToolJob(const RenameRunEnv& env)
+ToolJob::ToolJob(const RenameRunEnv& env) : ToolJob(env, env.list.SelectedRows()) {}
+
+ToolJob::ToolJob(const RenameRunEnv& env, std::vector<std::size_t> rows)
     : env_(env),
       log_env_{env.options, env.interaction, env.messages, env.clock, env.app, env.log_undo},
       log_(log_env_),
-      rows_(env.list.SelectedRows()),
+      rows_(std::move(rows)),
       started_(std::chrono::steady_clock::now()) {
   env_.app.CancelRun = false;
   env_.app.run_active = true;

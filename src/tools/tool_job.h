@@ -37,6 +37,8 @@ struct ToolJobResult {
 class ToolJob {
  public:
   explicit ToolJob(const RenameRunEnv& env);
+  // A job over the rows named, in that order, rather than the selection.
+  ToolJob(const RenameRunEnv& env, std::vector<std::size_t> rows);
   ~ToolJob();
   ToolJob(const ToolJob&) = delete;
   ToolJob& operator=(const ToolJob&) = delete;
