@@ -14,4 +14,4 @@ find_package(GTest)
 find_package(benchmark QUIET)
 # The desktop application and its tests.
 # Multimedia plays the finish sound of a run.
-find_package(Qt6 REQUIRED COMPONENTS Widgets Multimedia Test)
+find_package(Qt6 REQUIRED COMPONENTS Widgets Multimedia PrintSupport Test)

@@ -44,6 +44,7 @@ V1Field FindV1Field(std::string_view name) {
 struct TagsArgs {
   std::string file;
   bool json = false;
+  bool raw = false;  // values exactly as read, a closing NUL and what follows it included
   std::map<std::string, std::string> v1;  // field name -> value
   std::map<std::string, std::string> v2;
   std::optional<int> version;
@@ -77,6 +78,8 @@ std::optional<std::string> ParseArgs(std::span<const std::string> args, TagsArgs
     const std::string& arg = args[i];
     if (arg == "--json") {
       out.json = true;
+    } else if (arg == "--raw") {
+      out.raw = true;
     } else if (arg == "--set") {
       if (i + 1 >= args.size()) return "--set needs a value";
       if (auto error = AddSet(args[++i], out)) return error;
@@ -98,25 +101,30 @@ std::optional<std::string> ParseArgs(std::span<const std::string> args, TagsArgs
   }
   if (out.file.empty()) return "FILE is missing";
   if (out.json && out.writes()) return "--json only goes with reading";
+  if (out.raw && !out.json) return "--raw goes with --json";
   if (out.remove_v1 && !out.v1.empty()) return "--remove-v1 and --set v1.* exclude each other";
   const bool v2_write = !out.v2.empty() || out.version || out.discard;
   if (out.remove_v2 && v2_write) return "--remove-v2 excludes writing a version 2 tag";
   return std::nullopt;
 }
 
+// A value as the tag editor, the viewers and the reports show it: a frame's
+// closing NUL and anything behind it are no part of it; `raw` keeps them.
+std::string Shown(const std::string& value, bool raw) { return raw ? value : StripAtNull(value); }
+
 void PrintJson(std::ostream& out, bool v1_found, const ID3v1Tag& v1, bool v2_found,
-               const ID3v2Tag& v2, bool valid, const MPEGInfo& m) {
+               const ID3v2Tag& v2, bool valid, const MPEGInfo& m, bool raw) {
   JsonObject root;
   if (v1_found) {
     JsonObject o;
-    for (const auto& [name, member] : kV1Fields) o.Text(name, v1.*member);
+    for (const auto& [name, member] : kV1Fields) o.Text(name, Shown(v1.*member, raw));
     root.Raw("v1", o.str());
   } else {
     root.Raw("v1", "null");
   }
   if (v2_found) {
     JsonObject o;
-    for (const ID3v2Field& f : ID3v2Fields()) o.Text(f.name, v2.*f.member);
+    for (const ID3v2Field& f : ID3v2Fields()) o.Text(f.name, Shown(v2.*f.member, raw));
     root.Raw("v2", o.str());
   } else {
     root.Raw("v2", "null");
@@ -183,7 +191,7 @@ int ShowTags(const TagsArgs& a, CliIo& io) {
     return Failure(io, a.file + ": " + e.what());
   }
   if (a.json) {
-    PrintJson(io.out, v1_found, v1, v2_found, v2, valid, info);
+    PrintJson(io.out, v1_found, v1, v2_found, v2, valid, info, a.raw);
   } else {
     PrintText(io.out, v1_found, v1, v2_found, v2, valid, info);
   }
@@ -248,7 +256,7 @@ int RunTags(std::span<const std::string> args, CliIo& io) {
 }
 
 constexpr std::array<CommandForm, 2> kForms = {{
-    {"tags FILE [--json]", "show the ID3 version 1 and 2 tags and the MPEG stream facts"},
+    {"tags FILE [--json [--raw]]", "show the ID3 version 1 and 2 tags and the MPEG stream facts"},
     {"tags FILE --set v1.FIELD=VALUE --set v2.FIELD=VALUE [--v23|--v24] "
      "[--discard-other-frames] [--remove-v1] [--remove-v2]",
      "write tags as the tag editor does"},
@@ -257,7 +265,10 @@ constexpr std::array<CommandForm, 2> kForms = {{
 constexpr std::string_view kDetails =
     "Reading:\n"
     "  --json                 one JSON object: \"v1\" (7 fields or null), \"v2\" (57\n"
-    "                         fields or null) and \"mpeg\" (14 fields and \"valid\")\n"
+    "                         fields or null) and \"mpeg\" (14 fields and \"valid\");\n"
+    "                         values as the tag editor shows them\n"
+    "  --raw                  with --json: values exactly as read, a frame's\n"
+    "                         closing NUL and what follows it included\n"
     "Writing (Latin-1 only, read-only files are made writable first):\n"
     "  --set v1.FIELD=VALUE   artist, album, title, year, genre, comment, track\n"
     "  --set v2.FIELD=VALUE   any field of the version 2 record, such as title,\n"

@@ -4,6 +4,9 @@
 #include <QFileDialog>
 #include <QFont>
 #include <QPlainTextEdit>
+#include <QPrintDialog>
+#include <QPrintPreviewDialog>
+#include <QPrinter>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -33,10 +36,17 @@ ReportWindow::ReportWindow(const QString& title, const std::string& text, Option
   auto* buttons = new QDialogButtonBox(this);
   auto* save = buttons->addButton(Msg(messages, "report.save"), QDialogButtonBox::ActionRole);
   save->setObjectName("cmdSave");
+  auto* preview =
+      buttons->addButton(Msg(messages, "report.print_preview"), QDialogButtonBox::ActionRole);
+  preview->setObjectName("cmdPrintPreview");
+  auto* print = buttons->addButton(Msg(messages, "report.print"), QDialogButtonBox::ActionRole);
+  print->setObjectName("cmdPrint");
   auto* close = buttons->addButton(Msg(messages, "report.close"), QDialogButtonBox::RejectRole);
   close->setObjectName("cmdClose");
   layout->addWidget(buttons);
   connect(save, &QPushButton::clicked, this, &ReportWindow::Save);
+  connect(print, &QPushButton::clicked, this, &ReportWindow::Print);
+  connect(preview, &QPushButton::clicked, this, &ReportWindow::PrintPreview);
   connect(close, &QPushButton::clicked, this, &QDialog::reject);
 }
 
@@ -48,6 +58,27 @@ void ReportWindow::Save() {
           " (*)");
   if (path.isEmpty()) return;
   if (SaveTo(S(path))) options_.SaveOption("SavePath", "Options", ParentFolder(S(path)));
+}
+
+void ReportWindow::PrintTo(QPrinter& printer) const { text_->print(&printer); }
+
+void ReportWindow::Print() {
+  QPrinter printer(QPrinter::HighResolution);
+  printer.setDocName(windowTitle());
+  QPrintDialog dialog(&printer, this);
+  dialog.setWindowTitle(Msg(messages_, "report.print_title"));
+  if (dialog.exec() != QDialog::Accepted) return;
+  PrintTo(printer);
+}
+
+void ReportWindow::PrintPreview() {
+  QPrinter printer(QPrinter::HighResolution);
+  printer.setDocName(windowTitle());
+  QPrintPreviewDialog preview(&printer, this);
+  preview.setWindowTitle(Msg(messages_, "report.print_preview_title"));
+  connect(&preview, &QPrintPreviewDialog::paintRequested, this,
+          [this](QPrinter* target) { PrintTo(*target); });
+  preview.exec();
 }
 
 bool ReportWindow::SaveTo(const std::string& path) {

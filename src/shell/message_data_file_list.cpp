@@ -65,6 +65,10 @@ constexpr MessageEntry kEntries[] = {
     // The report window's buttons; our words.
     {0, "report.save", "Save ...", "Speichern ..."},
     {0, "report.close", "Close", "Schließen"},
+    {0, "report.print", "Print ...", "Drucken ..."},
+    {0, "report.print_preview", "Print preview ...", "Druckvorschau ..."},
+    {0, "report.print_title", "Print report", "Bericht drucken"},
+    {0, "report.print_preview_title", "Print preview", "Druckvorschau"},
     {0, "report.save_title", "Save report", "Bericht speichern"},
     {0, "report.filter_text", "Text files", "Textdateien"},
     {0, "report.filter_all", "All files", "Alle Dateien"},

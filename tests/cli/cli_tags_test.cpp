@@ -40,6 +40,17 @@ TEST_F(CliTagsTest, JsonHoldsBothRecordsAndTheStreamFacts) {
   EXPECT_THAT(r.out, HasSubstr("\"valid\": true}}"));
 }
 
+TEST_F(CliTagsTest, JsonShowsValuesWithoutTheClosingNulUnlessRaw) {
+  const std::string file = Copy("ffmpeg_v23.mp3", "f.mp3");
+  CliResult r = cli_.Run({"tags", file, "--json"});
+  ASSERT_EQ(r.exit_code, 0) << r.err;
+  EXPECT_THAT(r.out, HasSubstr("\"title\": \"FF Title\","));
+  EXPECT_THAT(r.out, ::testing::Not(HasSubstr("\\u0000")));
+  r = cli_.Run({"tags", file, "--json", "--raw"});
+  EXPECT_THAT(r.out, HasSubstr("\"title\": \"FF Title\\u0000\","));
+  EXPECT_EQ(cli_.Run({"tags", file, "--raw"}).exit_code, 2);
+}
+
 TEST_F(CliTagsTest, SetWritesBothVersionsAndKeepsTheVersionThere) {
   const std::string file = Copy("v24_utf8.mp3", "b.mp3");
   CliResult r = cli_.Run({"tags", file, "--set", "v2.title=New Title", "--set", "v1.track=9",
