@@ -6,6 +6,10 @@
 #include <map>
 
 #include "compress_dialog.h"
+#include "export_dialogs.h"
+#include "media_viewers.h"
+#include "tag_editor_dialog.h"
+#include "tools/list_export.h"
 #include "copy_move_dialog.h"
 #include "dialog_screenshot.h"
 #include "log_viewer.h"
@@ -179,6 +183,45 @@ std::unique_ptr<QDialog> MakeRenameFromText(DialogShotContext& c) {
   return dialog;
 }
 
+std::unique_ptr<QDialog> MakeExportText(DialogShotContext& c) {
+  return std::make_unique<SelectTextDialog>(c.options, c.messages, &c.window);
+}
+
+std::unique_ptr<QDialog> MakeExportXml(DialogShotContext& c) {
+  return std::make_unique<SelectXmlDialog>(c.options, c.messages, &c.window);
+}
+
+// The text export of FILE's folder (all columns, semicolons) in the report
+// window.
+std::unique_ptr<QDialog> MakeReportWindow(DialogShotContext& c) {
+  TextExportChoices choices;
+  choices.columns.chosen.fill(true);
+  choices.only_selected = false;
+  choices.delimiter = ExportDelimiter::kSemicolon;
+  const TextExportResult result = ExportListText(c.window.RunEnv(), choices);
+  return std::make_unique<ReportWindow>(Q(result.title), result.text, c.options, c.messages,
+                                        c.window.interaction(), &c.window);
+}
+
+std::string AbsoluteFile(const DialogShotContext& c) {
+  return c.file.empty() ? std::string() : std::filesystem::absolute(c.file).string();
+}
+
+std::unique_ptr<QDialog> MakeTagEditor(DialogShotContext& c) {
+  return std::make_unique<TagEditorDialog>(std::vector<std::string>{AbsoluteFile(c)}, c.options,
+                                           c.messages, c.window.interaction(), &c.window);
+}
+
+std::unique_ptr<QDialog> MakeMp3Info(DialogShotContext& c) {
+  return std::make_unique<MediaInfoDialog>(AbsoluteFile(c), c.options, c.messages,
+                                           c.window.interaction(), &c.window);
+}
+
+std::unique_ptr<QDialog> MakeExifViewer(DialogShotContext& c) {
+  return std::make_unique<ExifViewerDialog>(AbsoluteFile(c), c.options, c.messages,
+                                            c.window.interaction(), &c.window);
+}
+
 }  // namespace
 
 std::span<const DialogShot> DialogShots() {
@@ -212,6 +255,13 @@ std::span<const DialogShot> DialogShots() {
       {"resize", "resizing pictures", MakeResize},
       {"playlist-editor", "the playlist editor (FILE: a playlist, or a file of a music folder)",
        MakePlaylistEditor},
+      {"export-text", "the columns of the text export", MakeExportText},
+      {"export-xml", "the columns of the XML export", MakeExportXml},
+      {"report-window", "the text export of FILE's folder in the report window",
+       MakeReportWindow},
+      {"tag-editor", "the MP3 tag editor (FILE: an MP3 file)", MakeTagEditor},
+      {"mp3-info", "the MP3 information viewer (FILE: an MP3 or WMA file)", MakeMp3Info},
+      {"exif-viewer", "the EXIF viewer (FILE: a JPEG picture)", MakeExifViewer},
   };
   return kShots;
 }

@@ -203,7 +203,7 @@ QWidget* MainWindow::BuildListPane() {
   connect(files_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
           [this] { ViewSelectionToList(); });
   connect(files_, &QTableView::doubleClicked, this,
-          [this](const QModelIndex& index) { OpenPath(list_.Path(index.row())); });
+          [this](const QModelIndex& index) { RowActivated(index.row()); });
   layout->addWidget(BuildListViews(pane));
 
   connect(extension_, &QComboBox::activated, this, [this] {

@@ -16,6 +16,8 @@
 #include "core/rename_settings.h"
 #include "core/sample.h"
 #include "core/start_rename.h"
+#include "tools/export_choices.h"
+#include "tools/metadata_report_job.h"
 #include "tools/tool_job.h"
 #include "filelist/file_list.h"
 #include "filelist/list_loader.h"
@@ -49,8 +51,12 @@ class QTreeView;
 
 namespace tarnwick::gui {
 
+class ExifViewerDialog;
 class FileListModel;
 class LogViewer;
+class MediaInfoDialog;
+class ReportWindow;
+class TagEditorDialog;
 class PlaylistDialog;
 class RenameControls;
 class WindowHost;
@@ -124,6 +130,24 @@ class MainWindow : public QMainWindow, public ProgressView {
   void CompressPictures();
   // Resize picture: the dialogue, then the job.
   void ResizePictures();
+  // The text export: its dialogue, then the report window with the text
+  // (returned, shown without blocking; null when cancelled).
+  ReportWindow* ExportListAsText();
+  // The XML export: its dialogue, the file name, then the document.
+  void ExportListAsXml();
+  // The XML export to `path` with `choices`, as the menu does after asking.
+  ToolJobResult ExportListAsXmlTo(const XmlExportChoices& choices, const std::string& path);
+  // "Create JPEG EXIF Metainfo file" / "Create MP3 info file": the save
+  // dialogue, then the report of the selected rows.
+  void SaveMetadataReportFile(MetadataReport kind);
+  // The tag editor over the selected rows, the first one shown.
+  TagEditorDialog* OpenTagEditor();
+  // The viewers of the first selected row.
+  MediaInfoDialog* ShowMediaInfo();
+  ExifViewerDialog* ShowExifInfo();
+  // A double click on a row: the viewer of an MP3 or JPEG file when the
+  // option `DoubleClickShowsInfo` is on, else the desktop's application.
+  void RowActivated(std::size_t row);
   // Takes the newest run of the undo batch back: what it would do first, in
   // the result list, then a question, then the moves, never overwriting.
   void UndoLastRun();

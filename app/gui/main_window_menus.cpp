@@ -36,6 +36,12 @@ void MainWindow::BuildMenus() {
   file->addAction(Msg(messages_, "main.menu.save_settings"), QKeySequence::Save, this,
                   &MainWindow::SaveSettings);
   file->addSeparator();
+  file->addAction(Msg(messages_, "main.menu.export_text"), this,
+                  [this] { ExportListAsText(); })
+      ->setObjectName("mnuExportText");
+  file->addAction(Msg(messages_, "main.menu.export_xml"), this, &MainWindow::ExportListAsXml)
+      ->setObjectName("mnuExportXML");
+  file->addSeparator();
   file->addAction(Msg(messages_, "main.button.exit"), QKeySequence::Quit, this, &QWidget::close);
 
   QMenu* view = menuBar()->addMenu(Msg(messages_, "main.menu.view"));
@@ -110,6 +116,17 @@ void MainWindow::BuildMenus() {
       ->setObjectName("mnuCompressToJPG");
   tools->addAction(Msg(messages_, "main.menu.resize_pictures"), this, &MainWindow::ResizePictures)
       ->setObjectName("mnuResizeJPEG");
+  tools->addSeparator();
+  tools->addAction(Msg(messages_, "main.menu.tag_editor"), this, [this] { OpenTagEditor(); })
+      ->setObjectName("mnuMP3Tagger");
+  tools
+      ->addAction(Msg(messages_, "report.menu_exif"), this,
+                  [this] { SaveMetadataReportFile(MetadataReport::kExif); })
+      ->setObjectName("mnuSaveJPEGEXIFInfo");
+  tools
+      ->addAction(Msg(messages_, "report.menu_mp3"), this,
+                  [this] { SaveMetadataReportFile(MetadataReport::kMp3); })
+      ->setObjectName("mnuSaveMP3InfosToFile");
   tools->addSeparator();
   QAction* undo = tools->addAction(Msg(messages_, "main.menu.undo_last_run"), QKeySequence::Undo,
                                    this, &MainWindow::UndoLastRun);

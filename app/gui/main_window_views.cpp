@@ -30,7 +30,7 @@ QWidget* MainWindow::BuildListViews(QWidget* pane) {
   names_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   names_->installEventFilter(this);
   connect(names_, &QListView::doubleClicked, this,
-          [this](const QModelIndex& index) { OpenPath(list_.Path(index.row())); });
+          [this](const QModelIndex& index) { RowActivated(index.row()); });
   list_views_->addWidget(files_);
   list_views_->addWidget(names_);
   list_views_->setCurrentWidget(files_);
@@ -60,6 +60,18 @@ void MainWindow::BuildListMenu(QAction* refresh, QMenu* select) {
   auto* separator = new QAction(this);
   separator->setSeparator(true);
   list_actions_ << separator << refresh;
+  auto* media_separator = new QAction(this);
+  media_separator->setSeparator(true);
+  auto* tag_editor = new QAction(Msg(messages_, "main.menu.tag_editor"), this);
+  tag_editor->setObjectName("mnuListTagEditor");
+  connect(tag_editor, &QAction::triggered, this, [this] { OpenTagEditor(); });
+  auto* media_info = new QAction(Msg(messages_, "main.menu.media_info"), this);
+  media_info->setObjectName("mnuListMediaInfo");
+  connect(media_info, &QAction::triggered, this, [this] { ShowMediaInfo(); });
+  auto* exif_info = new QAction(Msg(messages_, "main.menu.exif_info"), this);
+  exif_info->setObjectName("mnuListExifInfo");
+  connect(exif_info, &QAction::triggered, this, [this] { ShowExifInfo(); });
+  list_actions_ << media_separator << tag_editor << media_info << exif_info;
   for (QAbstractItemView* view :
        {static_cast<QAbstractItemView*>(files_), static_cast<QAbstractItemView*>(names_)}) {
     view->setContextMenuPolicy(Qt::ActionsContextMenu);

@@ -51,6 +51,7 @@ const std::vector<OptionRow>& OptionRows() {
       {"ShowTooltips", "1", K::kTick, "options.show_tooltips", 0},
       {"LoadOnlyFileName", "0", K::kTick, "options.load_only_file_names", 0},
       {"NaturalNameOrder", "0", K::kTick, "options.natural_name_order", 0},
+      {"DoubleClickShowsInfo", "0", K::kTick, "options.double_click_shows_info", 0},
       {"CheckNotForNewFiles", "0", K::kTick, "options.check_not_for_new_files", 0},
       {"JumpToLastSelectedFile", "0", K::kTick, "options.jump_to_last_selected", 0},
       {"ShowNewNames", "1", K::kTick, "main.menu.new_name_column", 0},

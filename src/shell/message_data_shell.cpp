@@ -114,6 +114,10 @@ constexpr MessageEntry kEntries[] = {
     {0, "main.menu.export_xml", "Export file list as XML ...",
      "Dateiliste als XML exportieren ..."},
     {0, "main.menu.playlist_editor", "Playlist editor ...", "Playlist-Editor ..."},
+    {0, "main.menu.tag_editor", "MP3 tag editor ...", "MP3-Tag-Editor ..."},
+    {0, "main.menu.media_info", "Show MP3 information ...", "MP3-Informationen anzeigen ..."},
+    {0, "main.menu.exif_info", "Show JPEG EXIF information ...",
+     "JPEG-EXIF-Informationen anzeigen ..."},
     // Labels, menus and dialogue parts of the desktop window.
     {0, "main.label.with", "with", "durch"},
     {0, "main.label.extension_filter", "Extension:", "Erweiterung:"},
