@@ -81,8 +81,17 @@ constexpr std::pair<std::string_view, std::string ID3v1Tag::*> kV1Lines[] = {
     {"track", &ID3v1Tag::track},
 };
 
+// "artistAdditional" is labelled by "viewer.field.artist_additional".
 std::string Label(const MessageTable& messages, std::string_view field) {
-  return std::string(messages.Text("viewer.field." + std::string(field)));
+  std::string key = "viewer.field.";
+  for (std::size_t i = 0; i < field.size(); ++i) {
+    const char c = field[i];
+    const bool upper = c >= 'A' && c <= 'Z';
+    const bool after_lower = i > 0 && field[i - 1] >= 'a' && field[i - 1] <= 'z';
+    if (upper && after_lower) key += '_';
+    key += upper ? static_cast<char>(c - 'A' + 'a') : c;
+  }
+  return std::string(messages.Text(key));
 }
 
 bool IsWindowsMedia(const std::string& path) {
