@@ -21,7 +21,6 @@ namespace tarnwick::gui {
 namespace {
 
 constexpr int kGenreCount = 148;
-// The widths of the fields of a version 1 tag.
 constexpr int kV1TextLength = 30;
 constexpr int kV1CommentLength = 28;
 
@@ -29,7 +28,15 @@ const std::array kMpegLabelNames = {"lblMPEG",  "lblLen",      "lblkBit",   "lbl
                                     "lblCopy",  "lblOrig",     "lblCRC",    "lblEmphasis",
                                     "lblv1Vers", "lblv2Vers"};
 
-QComboBox* GenreBox(const char* name, bool editable, QWidget* parent) {
+// The widths of the boxes of a version 1 tag.
+int V1BoxLength(std::string_view box) {
+  if (box == "v1Comment") return kV1CommentLength;
+  if (box == "v1Year") return 4;
+  if (box == "v1TNR") return 3;
+  return kV1TextLength;
+}
+
+QComboBox* GenreBox(const QString& name, bool editable, QWidget* parent) {
   auto* box = new QComboBox(parent);
   box->setObjectName(name);
   box->setEditable(editable);
@@ -126,58 +133,52 @@ TagEditorDialog::TagEditorDialog(std::vector<std::string> files, OptionStore& op
 
 TagEditorDialog::~TagEditorDialog() = default;
 
-QGroupBox* TagEditorDialog::BuildV1Frame() {
-  auto* outer = new QGroupBox(this);
+// The frame of version 1 or 2: its tick, and its boxes in a form (returned)
+// that the tick enables.
+QFormLayout* TagEditorDialog::BuildTagFrame(int version, QGroupBox*& outer) {
+  const bool first = version == 1;
+  outer = new QGroupBox(this);
   auto* column = new QVBoxLayout(outer);
-  v1_on_ = new QCheckBox(Msg(messages_, "tag_editor.frame_v1"), outer);
-  v1_on_->setObjectName("chkv1");
-  column->addWidget(v1_on_);
-  v1_frame_ = new QGroupBox(outer);
-  v1_frame_->setObjectName("frav1");
-  v1_frame_->setFlat(true);
-  auto* form = new QFormLayout(v1_frame_);
-  for (const TagBox& box : V1Boxes()) {
-    if (box.name == "v1Genre") {
-      v1_genre_ = GenreBox("v1Genre", false, v1_frame_);
-      form->addRow(Msg(messages_, box.label_key), v1_genre_);
+  QCheckBox*& tick = first ? v1_on_ : v2_on_;
+  tick = new QCheckBox(Msg(messages_, first ? "tag_editor.frame_v1" : "tag_editor.frame_v2"),
+                       outer);
+  tick->setObjectName(first ? "chkv1" : "chkv2");
+  column->addWidget(tick);
+  QGroupBox*& frame = first ? v1_frame_ : v2_frame_;
+  frame = new QGroupBox(outer);
+  frame->setObjectName(first ? "frav1" : "frav2");
+  frame->setFlat(true);
+  auto* form = new QFormLayout(frame);
+  for (const TagBox& box : first ? V1Boxes() : V2Boxes()) {
+    const QString name = QString::fromLatin1(box.name.data(), box.name.size());
+    if (box.name.substr(2) == "Genre") {
+      QComboBox*& genre = first ? v1_genre_ : v2_genre_;
+      // Version 2 takes any genre text; version 1 only the table's numbers.
+      genre = GenreBox(name, !first, frame);
+      form->addRow(Msg(messages_, box.label_key), genre);
       continue;
     }
-    auto* field = new QLineEdit(v1_frame_);
-    field->setObjectName(QString::fromLatin1(box.name.data(), box.name.size()));
-    field->setMaxLength(box.name == "v1Comment" ? kV1CommentLength
-                        : box.name == "v1Year"  ? 4
-                        : box.name == "v1TNR"   ? 3
-                                                : kV1TextLength);
+    auto* field = new QLineEdit(frame);
+    field->setObjectName(name);
+    if (first) field->setMaxLength(V1BoxLength(box.name));
     boxes_.emplace(std::string(box.name), field);
     form->addRow(Msg(messages_, box.label_key), field);
   }
-  column->addWidget(v1_frame_);
+  column->addWidget(frame);
   column->addStretch();
-  connect(v1_on_, &QCheckBox::toggled, this, &TagEditorDialog::EnableFrames);
+  connect(tick, &QCheckBox::toggled, this, &TagEditorDialog::EnableFrames);
+  return form;
+}
+
+QGroupBox* TagEditorDialog::BuildV1Frame() {
+  QGroupBox* outer = nullptr;
+  BuildTagFrame(1, outer);
   return outer;
 }
 
 QGroupBox* TagEditorDialog::BuildV2Frame() {
-  auto* outer = new QGroupBox(this);
-  auto* column = new QVBoxLayout(outer);
-  v2_on_ = new QCheckBox(Msg(messages_, "tag_editor.frame_v2"), outer);
-  v2_on_->setObjectName("chkv2");
-  column->addWidget(v2_on_);
-  v2_frame_ = new QGroupBox(outer);
-  v2_frame_->setObjectName("frav2");
-  v2_frame_->setFlat(true);
-  auto* form = new QFormLayout(v2_frame_);
-  for (const TagBox& box : V2Boxes()) {
-    if (box.name == "v2Genre") {
-      v2_genre_ = GenreBox("v2Genre", true, v2_frame_);
-      form->addRow(Msg(messages_, box.label_key), v2_genre_);
-      continue;
-    }
-    auto* field = new QLineEdit(v2_frame_);
-    field->setObjectName(QString::fromLatin1(box.name.data(), box.name.size()));
-    boxes_.emplace(std::string(box.name), field);
-    form->addRow(Msg(messages_, box.label_key), field);
-  }
+  QGroupBox* outer = nullptr;
+  QFormLayout* form = BuildTagFrame(2, outer);
   version_ = new QComboBox(v2_frame_);
   version_->setObjectName("cmbVersion");
   version_->addItems({"2.3", "2.4"});
@@ -185,8 +186,6 @@ QGroupBox* TagEditorDialog::BuildV2Frame() {
   clear_ = new QCheckBox(Msg(messages_, "tag_editor.clear"), v2_frame_);
   clear_->setObjectName("chkClear");
   form->addRow(clear_);
-  column->addWidget(v2_frame_);
-  connect(v2_on_, &QCheckBox::toggled, this, &TagEditorDialog::EnableFrames);
   return outer;
 }
 

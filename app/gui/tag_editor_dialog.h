@@ -12,6 +12,7 @@
 
 class QCheckBox;
 class QComboBox;
+class QFormLayout;
 class QGroupBox;
 class QLabel;
 class QLineEdit;
@@ -46,6 +47,7 @@ class TagEditorDialog : public QDialog {
   void done(int result) override;
 
  private:
+  QFormLayout* BuildTagFrame(int version, QGroupBox*& outer);
   QGroupBox* BuildV1Frame();
   QGroupBox* BuildV2Frame();
   QWidget* BuildMpegFrame();
