@@ -52,11 +52,19 @@ ActionOrder DefaultActionOrder() {
 }
 
 ActionOrder ReadActionOrder(const OptionStore& options) {
+  // A run asks for every file; the ten options are read again only when
+  // the store may have changed.
+  thread_local std::uint64_t cached_generation = 0;
+  thread_local ActionOrder cached{};
+  const std::uint64_t generation = options.Generation();
+  if (generation != 0 && generation == cached_generation) return cached;
   ActionOrder order{};
   for (std::size_t i = 0; i < order.size(); ++i) {
     const std::string fallback = std::to_string(i + 1);
     order[i] = CodeOf(options.GetOption(KeyOf(i + 1), kSection, fallback));
   }
+  cached_generation = generation;
+  cached = order;
   return order;
 }
 

@@ -70,12 +70,12 @@ std::string RunPipeline(const PipelineEnv& env, std::string& name, std::size_t r
   std::string result = name;
   // A deferred check leaves a taken name to the run's move; a file held
   // open is decided here all the same, so its questions keep their order.
-  name_unchecked = !test_mode && env.defer_taken_check && !FileHeldOpen(env, folder, old_name);
+  name_unchecked = !test_mode && env.defer_taken_check && !FileHeldOpen(env, row, folder, old_name);
   if (!test_mode && !name_unchecked) {
     result = DecideCollision(env, old_name, name, folder, expander.row_name());
     CheckNameForFileSystem(result);
   }
-  if (!name_unchecked && !result.empty() && !PassOpenFileTest(env, folder, old_name)) {
+  if (!name_unchecked && !result.empty() && !PassOpenFileTest(env, row, folder, old_name)) {
     result.clear();
   }
   if (test_mode) result = name;

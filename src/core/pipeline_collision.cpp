@@ -4,6 +4,7 @@
 #include "base/path_text.h"
 #include "core/pipeline_name_diff.h"
 #include "core/rename_settings.h"
+#include "filelist/file_list.h"
 #include "persist/option_store.h"
 #include "platform/file_in_use.h"
 #include "platform/files.h"
@@ -63,13 +64,20 @@ std::string DecideTakenName(const PipelineEnv& env, const std::string& name,
   return AskFileExists(env, name, folder, row_name);
 }
 
-bool FileHeldOpen(const PipelineEnv& env, std::string_view folder, std::string_view old_name) {
+bool FileHeldOpen(const PipelineEnv& env, std::size_t row, std::string_view folder,
+                  std::string_view old_name) {
   const std::string path = JoinPath(folder, old_name);
-  return env.open_files != nullptr ? env.open_files->IsFileInUse(path) : IsFileInUse(path);
+  if (env.open_files == nullptr) return IsFileInUse(path);
+  if (row >= env.list.size()) return env.open_files->IsFileInUse(path);
+  const FileRow& facts = env.list.rows()[row];
+  // The row's identity holds while the file keeps the name the fill read.
+  if (facts.name != old_name) return env.open_files->IsFileInUse(path);
+  return env.open_files->IsFileInUse(path, facts.device, facts.inode);
 }
 
-bool PassOpenFileTest(const PipelineEnv& env, std::string_view folder, std::string_view old_name) {
-  if (!FileHeldOpen(env, folder, old_name)) return true;
+bool PassOpenFileTest(const PipelineEnv& env, std::size_t row, std::string_view folder,
+                      std::string_view old_name) {
+  if (!FileHeldOpen(env, row, folder, old_name)) return true;
   const std::string path = JoinPath(folder, old_name);
   env.app.FileLockSeen = true;
   if (env.settings.optCopyRename == kModeCopy) return true;

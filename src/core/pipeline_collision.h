@@ -23,13 +23,16 @@ std::string DecideCollision(const PipelineEnv& env, std::string_view old_name,
 std::string DecideTakenName(const PipelineEnv& env, const std::string& name,
                             std::string_view folder, std::string_view row_name);
 
-// Whether another program holds the file `old_name` in `folder` open.
-bool FileHeldOpen(const PipelineEnv& env, std::string_view folder, std::string_view old_name);
+// Whether another program holds the file `old_name` in `folder` open; the
+// list's `row` lends its identity to a run's scan of open files.
+bool FileHeldOpen(const PipelineEnv& env, std::size_t row, std::string_view folder,
+                  std::string_view old_name);
 
 // The open-file test of the file `old_name` in `folder`. A file another
 // program holds open sets `FileLockSeen`; in rename and test mode the box
 // "File is open" is shown, whose Cancel sets `CancelRun`, and the file is
 // skipped. Returns false when the file is to be skipped.
-bool PassOpenFileTest(const PipelineEnv& env, std::string_view folder, std::string_view old_name);
+bool PassOpenFileTest(const PipelineEnv& env, std::size_t row, std::string_view folder,
+                      std::string_view old_name);
 
 }  // namespace tarnwick

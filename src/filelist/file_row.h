@@ -37,6 +37,11 @@ struct FileRow {
   std::uint32_t type = 0;        // index into the list's type texts; 0 is none
   std::uint32_t media_info = 0;  // index into the list's media texts; 0 is none
   std::uint32_t exif_date = 0;   // likewise, for the EXIF date column
+  // The file's identity when the fill read it (the device as major << 32 |
+  // minor, and the inode), so a run's open-file test needs no stat of its
+  // own; inode 0: not known.
+  std::uint64_t device = 0;
+  std::uint64_t inode = 0;
   bool has_date = false;
   // Loaded with `LoadOnlyFileName`: no type, attributes or folder name.
   bool name_only = false;

@@ -59,6 +59,8 @@ void AddRow(FileList& list, const FolderView& view, const FileRecord& record,
   row.attributes = record.attributes;
   row.folder = view.folder_index;
   row.name_only = view.names_only;
+  row.device = record.device;
+  row.inode = record.inode;
   const std::string path = JoinPath(view.folder, record.name);
   FillDate(record, view.date_kind, row);
   if (!view.names_only) {

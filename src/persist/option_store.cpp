@@ -1,6 +1,8 @@
 #include "persist/option_store.h"
 
+#include <atomic>
 #include <chrono>
+#include <cstdint>
 #include <mutex>
 #include <system_error>
 
@@ -9,6 +11,14 @@
 #include "platform/user_folders.h"
 
 namespace tarnwick {
+namespace {
+
+// Generations are unique across all stores of the process, so a cache keyed
+// by a generation alone never mistakes one store's values for another's.
+std::atomic<std::uint64_t> next_generation{1};
+std::uint64_t NewGeneration() { return next_generation.fetch_add(1, std::memory_order_relaxed); }
+
+}  // namespace
 
 struct OptionStore::Impl {
   explicit Impl(std::filesystem::path path)
@@ -32,6 +42,7 @@ struct OptionStore::Impl {
     OptionFileContent content = ReadOptionFile(file);
     const bool read = content.state == OptionFileContent::State::kRead;
     document = read ? IniDocument::Parse(content.text) : IniDocument();
+    generation = NewGeneration();
     Remember(read ? content.identity : now);
   }
 
@@ -59,6 +70,7 @@ struct OptionStore::Impl {
     // Still under the lock: what is on disk now is exactly `fresh`.
     const std::lock_guard guard(mutex);
     document = std::move(fresh);
+    generation = NewGeneration();
     Remember(StatOptionFile(file));
     return true;
   }
@@ -70,6 +82,8 @@ struct OptionStore::Impl {
   mutable OptionFileIdentity identity;
   mutable bool loaded = false;
   mutable bool racy = false;
+  // Changes whenever a value read may have changed.
+  mutable std::uint64_t generation = NewGeneration();
   // Values of this process only, read before the file's.
   IniDocument overrides;
   // Open units of work (OptionStore::Unit), and whether the file has been
@@ -84,6 +98,18 @@ void OptionStore::SetOverride(std::string_view name, std::string_view section,
   if (!impl_ || name.empty()) return;
   const std::lock_guard guard(impl_->mutex);
   impl_->overrides.Set(section, name, value);
+  impl_->generation = NewGeneration();
+}
+
+std::uint64_t OptionStore::Generation() const {
+  if (!impl_) return 0;
+  try {
+    const std::lock_guard guard(impl_->mutex);
+    impl_->Refresh();
+    return impl_->generation;
+  } catch (...) {
+    return NewGeneration();  // unknown: nothing cached may be trusted
+  }
 }
 
 OptionStore::Unit::Unit(const OptionStore& store) : store_(store) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <cstdint>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -46,6 +47,12 @@ class OptionStore {
   // leave the stored options as they were). An empty value lifts it.
   // SaveOption still writes the file and leaves the override in place.
   void SetOverride(std::string_view name, std::string_view section, std::string_view value);
+
+  // A number that changes whenever a value GetOption gives may have changed
+  // (the file read anew, a save, an override), unique among all stores of the
+  // process: what is worked out from options can be kept until it changes.
+  // Checks the file as GetOption does.
+  std::uint64_t Generation() const;
 
   // One unit of work, such as one file of a rename run: while it lasts, the
   // file is checked for changes by other processes at most once, at the

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <cstdint>
 #include <filesystem>
 #include <memory>
 
@@ -17,7 +18,7 @@ namespace tarnwick {
 bool IsFileInUse(const std::filesystem::path& path);
 
 // The open-file test of a run of many files, at the cost of one stat per
-// file: the open descriptors of the processes this one may read
+// file, or none where the file's identity is known: the open descriptors of the processes this one may read
 // (/proc/*/fd) are looked at once, and again when the last look is older
 // than `max_age`. Its limits, against IsFileInUse:
 //   - A descriptor of a process of another user is not seen unless this
@@ -34,8 +35,16 @@ class OpenFileScan {
   OpenFileScan& operator=(const OpenFileScan&) = delete;
 
   bool IsFileInUse(const std::filesystem::path& path);
+  // The same for a file whose identity is known (a row of the list keeps
+  // what its fill's statx gave: the device as major << 32 | minor, and the
+  // inode), without asking the file system; inode 0: not known, asked by
+  // path. Only a file found open is looked at (its identity may have passed
+  // to another file since); a file replaced by another since its identity
+  // was taken is otherwise judged as the file it was.
+  bool IsFileInUse(const std::filesystem::path& path, std::uint64_t device, std::uint64_t inode);
 
  private:
+  void Refresh();
   struct Table;
   std::unique_ptr<Table> table_;
   std::chrono::milliseconds max_age_;

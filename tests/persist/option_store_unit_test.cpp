@@ -50,6 +50,31 @@ TEST(OptionStoreUnitTest, AChangeByAnotherStoreReachesTheUnitsOfARunWithinTheInt
   EXPECT_EQ(reader.GetOption("FreezeApp", "Options", ""), "1");
 }
 
+// What is worked out from options is kept while the generation stays: it
+// must move with every change a read could see, and only then.
+TEST(OptionStoreUnitTest, TheGenerationMovesWithEveryChangeAReadCouldSee) {
+  TempDir dir;
+  OptionStore store(dir.path() / "Tarnwick.ini");
+  OptionStore other(dir.path() / "Tarnwick.ini");
+  OptionStore elsewhere(dir.path() / "Other.ini");
+  EXPECT_NE(store.Generation(), elsewhere.Generation());
+  store.SaveOption("Top", "Options", "1");
+  const std::uint64_t saved = store.Generation();
+  store.SetOverride("Top", "Options", "9");
+  const std::uint64_t overridden = store.Generation();
+  EXPECT_NE(overridden, saved);
+  other.SaveOption("Left", "Options", "2");
+  // Another store's write is seen at the next check of the file; it may be
+  // read again while the file's stamps are within the clock's last tick.
+  std::this_thread::sleep_for(std::chrono::milliseconds(30));
+  const std::uint64_t seen = store.Generation();
+  EXPECT_NE(seen, overridden);
+  EXPECT_EQ(store.GetOption("Left", "Options", ""), "2");
+  std::this_thread::sleep_for(std::chrono::milliseconds(1100));
+  const std::uint64_t settled = store.Generation();
+  EXPECT_EQ(store.Generation(), settled);
+}
+
 TEST(OptionStoreUnitTest, OverridesAreReadFirstAndNeverWritten) {
   TempDir dir;
   OptionStore store(dir.path() / "Tarnwick.ini");

@@ -2,6 +2,8 @@
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <sys/sysmacros.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -118,6 +120,30 @@ TEST(FileInUseTest, TheScanOfARunSeesWhatTheSingleTestSees) {
   EXPECT_TRUE(scan.IsFileInUse(free));
   ::close(own);
   for (int fd : {ready[0], ready[1], release[0], release[1]}) ::close(fd);
+}
+
+// A row of the list brings the identity its fill read: no stat for a file
+// that is not open, and a yes made sure of by the path.
+TEST(FileInUseTest, TheScanJudgesAKnownIdentityAndChecksAYes) {
+  TempDir dir;
+  const std::filesystem::path file = dir.WriteFile("known.txt", "a");
+  const std::filesystem::path other = dir.WriteFile("other.txt", "b");
+  const auto identity = [](const std::filesystem::path& path) {
+    struct stat info {};
+    ::stat(path.c_str(), &info);
+    return std::pair<std::uint64_t, std::uint64_t>(
+        (static_cast<std::uint64_t>(major(info.st_dev)) << 32) | minor(info.st_dev), info.st_ino);
+  };
+  const auto [device, inode] = identity(file);
+  OpenFileScan scan(std::chrono::milliseconds(0));
+  EXPECT_FALSE(scan.IsFileInUse(file, device, inode));
+  const int held = ::open(file.c_str(), O_RDONLY);
+  EXPECT_TRUE(scan.IsFileInUse(file, device, inode));
+  // The identity of an open file given with the path of a file that is not
+  // open (an inode passed on since the fill): the path decides.
+  EXPECT_FALSE(scan.IsFileInUse(other, device, inode));
+  ::close(held);
+  EXPECT_FALSE(scan.IsFileInUse(file, device, inode));
 }
 
 }  // namespace

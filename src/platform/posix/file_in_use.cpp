@@ -4,6 +4,7 @@
 #include <errno.h>
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/sysmacros.h>
 
 #include <cctype>
 #include <cstdint>
@@ -78,7 +79,13 @@ bool AnyProcessHolds(dev_t device, ino_t inode) {
   return found;
 }
 
-using FileId = std::pair<dev_t, ino_t>;
+// A device as statx gives it (major in the high 32 bits, minor in the low),
+// and an inode.
+using FileId = std::pair<std::uint64_t, std::uint64_t>;
+
+std::uint64_t DeviceKey(dev_t device) {
+  return (static_cast<std::uint64_t>(major(device)) << 32) | minor(device);
+}
 
 struct FileIdHash {
   std::size_t operator()(const FileId& id) const {
@@ -95,7 +102,7 @@ void AddOpenFiles(const std::string& fd_folder, std::unordered_set<FileId, FileI
     if (!AllDigits(entry->d_name)) continue;
     struct stat info;
     if (::fstatat(::dirfd(folder), entry->d_name, &info, 0) != 0) continue;
-    if (S_ISREG(info.st_mode)) open.insert({info.st_dev, info.st_ino});
+    if (S_ISREG(info.st_mode)) open.insert({DeviceKey(info.st_dev), info.st_ino});
   }
   ::closedir(folder);
 }
@@ -124,14 +131,29 @@ OpenFileScan::OpenFileScan(std::chrono::milliseconds max_age)
 
 OpenFileScan::~OpenFileScan() = default;
 
-bool OpenFileScan::IsFileInUse(const std::filesystem::path& path) {
+void OpenFileScan::Refresh() {
   if (!table_->taken_once || std::chrono::steady_clock::now() - table_->taken >= max_age_) {
     table_->Take();
   }
+}
+
+bool OpenFileScan::IsFileInUse(const std::filesystem::path& path) {
+  Refresh();
   if (!table_->proc_readable) return tarnwick::IsFileInUse(path);
   struct stat info;
   if (path.empty() || ::stat(path.c_str(), &info) != 0 || !S_ISREG(info.st_mode)) return false;
-  return table_->open.contains({info.st_dev, info.st_ino});
+  return table_->open.contains({DeviceKey(info.st_dev), info.st_ino});
+}
+
+bool OpenFileScan::IsFileInUse(const std::filesystem::path& path, std::uint64_t device,
+                               std::uint64_t inode) {
+  if (inode == 0) return IsFileInUse(path);
+  Refresh();
+  if (!table_->proc_readable) return tarnwick::IsFileInUse(path);
+  if (!table_->open.contains({device, inode})) return false;
+  // The rare yes is made sure of: the file may have gone since the fill and
+  // its inode been given to another file that is open.
+  return IsFileInUse(path);
 }
 
 bool IsFileInUse(const std::filesystem::path& path) {
