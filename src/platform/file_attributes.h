@@ -50,6 +50,8 @@ class FolderAttributeReader {
 
  private:
   std::filesystem::path folder_;
+  mutable std::string path_buffer_;  // the folder, "/", and the name of the entry read last
+  std::size_t folder_prefix_ = 0;
   bool fat_ = false;
   bool extended_attributes_ = true;
 };

@@ -25,11 +25,13 @@ bool DotName(const std::string& name) { return name.size() > 1 && name[0] == '.'
 bool DotName(const std::filesystem::path& path) { return DotName(path.filename().string()); }
 
 // The stored record; empty when there is none or it cannot be read.
-std::string ReadRecord(const std::filesystem::path& path) {
+std::string ReadRecord(const char* path) {
   char value[512];
-  const ssize_t size = ::getxattr(path.c_str(), kDosAttributes, value, sizeof value);
+  const ssize_t size = ::getxattr(path, kDosAttributes, value, sizeof value);
   return size > 0 ? std::string(value, static_cast<size_t>(size)) : std::string();
 }
+
+std::string ReadRecord(const std::filesystem::path& path) { return ReadRecord(path.c_str()); }
 
 int WordFromMode(mode_t mode) {
   int word = 0;
@@ -92,6 +94,9 @@ FileResult<int> GetFileAttributes(const std::filesystem::path& path) {
 
 FolderAttributeReader::FolderAttributeReader(const std::filesystem::path& folder, int folder_fd)
     : folder_(folder), fat_(posix::FolderIsOnFat(folder_fd)) {
+  path_buffer_ = folder_.string();
+  if (path_buffer_.empty() || path_buffer_.back() != '/') path_buffer_ += '/';
+  folder_prefix_ = path_buffer_.size();
   char value[1];
   if (::fgetxattr(folder_fd, kDosAttributes, value, 0) < 0 &&
       (errno == ENOTSUP || errno == EOPNOTSUPP)) {
@@ -102,9 +107,12 @@ FolderAttributeReader::FolderAttributeReader(const std::filesystem::path& folder
 int FolderAttributeReader::Read(const std::string& name, unsigned mode) const {
   std::optional<int> stored;
   if (extended_attributes_ || fat_) {
-    const std::filesystem::path path = folder_ / name;
-    if (extended_attributes_) stored = posix::ReadDosAttributes(ReadRecord(path));
-    if (!stored && fat_) stored = posix::ReadFatAttributesOnFat(path);
+    // Asked once per file of a fill: the path is put together in a buffer
+    // that keeps the folder, not parsed into a path object each time.
+    path_buffer_.resize(folder_prefix_);
+    path_buffer_ += name;
+    if (extended_attributes_) stored = posix::ReadDosAttributes(ReadRecord(path_buffer_.c_str()));
+    if (!stored && fat_) stored = posix::ReadFatAttributesOnFat(path_buffer_);
   }
   return ComposeWord(static_cast<mode_t>(mode), DotName(name), stored);
 }
