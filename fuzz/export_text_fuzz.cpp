@@ -1,6 +1,6 @@
 // Random bytes as a file name through the exports' text conversions. The XML
 // document made of the converted name must be well-formed UTF-8 XML 1.0 that
-// gives the converted name back; a text export line must stay one line; a
+// gives the converted name back, the same from the section writer; a text export line must stay one line; a
 // name that needs no conversion must come out as it went in.
 #include <cstddef>
 #include <cstdint>
@@ -11,6 +11,7 @@
 
 #include "base/utf8.h"
 #include "persist/xml_configuration.h"
+#include "persist/xml_configuration_writer.h"
 #include "tools/export_text.h"
 
 namespace {
@@ -52,6 +53,11 @@ void CheckXml(std::string_view name, bool convert) {
   document.WriteValue("Item1", "Name", value);
   const std::string text = document.DocumentText();
   Check(XmlCharacters(text));
+  // The export's section-by-section writer gives the same bytes.
+  tarnwick::XmlConfigurationWriter writer;
+  const tarnwick::XmlConfigurationWriter::Item item{"Name", value};
+  writer.AddSection("Item1", {&item, 1});
+  Check(writer.Text() == text);
   pugi::xml_document parsed;
   // The default parse is strict about what a document may hold.
   const pugi::xml_parse_result result =

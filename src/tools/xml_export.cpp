@@ -4,7 +4,7 @@
 #include "base/vb_error.h"
 #include "core/product_info.h"
 #include "filelist/file_list.h"
-#include "persist/xml_configuration.h"
+#include "persist/xml_configuration_writer.h"
 #include "shell/interaction.h"
 #include "shell/message_table.h"
 #include "tools/export_text.h"
@@ -25,23 +25,34 @@ std::vector<std::size_t> ExportedRows(const FileList& list, bool only_selected) 
   return rows;
 }
 
-void WriteHead(XMLConfiguration& document, const Clock& clock) {
-  document.WriteValue("Tarnwick", "Version", kProductVersion);
-  document.WriteValue("Copyright", "Copyright", kMakerCopyright);
-  document.WriteValue("Internet", "Internet", kMakerAddress);
-  document.WriteValue("FileLastModified", "FileLastModified",
-                      vb::FormatDate(clock.Now(), "Short Date") + " " +
-                          vb::FormatDate(clock.Now(), "Long Time"));
+// A head section of one item.
+void WriteHeadItem(XmlConfigurationWriter& document, std::string_view section,
+                   std::string_view item, std::string_view value) {
+  const XmlConfigurationWriter::Item only{item, value};
+  document.AddSection(section, {&only, 1});
 }
 
-void WriteItem(XMLConfiguration& document, std::size_t number, const ExportColumns& columns,
+void WriteHead(XmlConfigurationWriter& document, const Clock& clock) {
+  const vb::DateTime now = clock.Now();
+  WriteHeadItem(document, "Tarnwick", "Version", kProductVersion);
+  WriteHeadItem(document, "Copyright", "Copyright", kMakerCopyright);
+  WriteHeadItem(document, "Internet", "Internet", kMakerAddress);
+  WriteHeadItem(document, "FileLastModified", "FileLastModified",
+                vb::FormatDate(now, "Short Date") + " " + vb::FormatDate(now, "Long Time"));
+}
+
+void WriteItem(XmlConfigurationWriter& document, std::size_t number, const ExportColumns& columns,
                const std::vector<std::string>& cells, bool convert) {
-  const std::string section = "Item" + std::to_string(number);
+  std::vector<std::string> values;
+  std::vector<XmlConfigurationWriter::Item> items;
+  values.reserve(cells.size());
   std::size_t cell = 0;
   for (std::size_t column = 0; column < columns.chosen.size(); ++column) {
     if (!columns.chosen[column]) continue;
-    document.WriteValue(section, kItemNames[column], XmlValueText(cells[cell++], convert));
+    values.push_back(XmlValueText(cells[cell++], convert));
+    items.emplace_back(kItemNames[column], values.back());
   }
+  document.AddSection("Item" + std::to_string(number), items);
 }
 
 }  // namespace
@@ -51,10 +62,7 @@ ToolJobResult ExportListXml(const RenameRunEnv& env, const XmlExportChoices& cho
   ToolJob job(env, ExportedRows(env.list, choices.only_selected));
   env.interaction.ShowStatus(StatusArea::kStatusLine,
                              std::string(env.messages.Text("filelist.wait_reading_directory")));
-  XMLConfiguration document;
-  document.Encryption(false);
-  document.Utf8Text(true);
-  document.StartNewFile(path);
+  XmlConfigurationWriter document;
   WriteHead(document, env.clock);
   ExportCells cells(env.list, choices.columns, env.messages);
   const std::string total = std::to_string(job.total());
@@ -70,7 +78,7 @@ ToolJobResult ExportListXml(const RenameRunEnv& env, const XmlExportChoices& cho
     job.EndFile(i);
   }
   try {
-    document.SaveConfigurationFile();
+    document.Save(path);
   } catch (const VbError& error) {
     const std::string what = path + ": " + std::string(error.description());
     job.Failed(path, std::string(error.description()));
