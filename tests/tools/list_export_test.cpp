@@ -162,6 +162,19 @@ TEST_F(ListExportTest, XmlOfFiveFilesHoldsOnlyTheChosenItems) {
   EXPECT_TRUE(WellFormed(path));
 }
 
+TEST_F(ListExportTest, EscSavesThePartialXmlDocumentAndSaysSo) {
+  FiveFiles();
+  interaction.PressCancelAtPoll(3);
+  const std::string path = (dir.path() / "partial.xml").string();
+  const ToolJobResult result = ExportListXml(Env(), XmlExportChoices{}, path);
+  EXPECT_TRUE(result.cancelled);
+  const std::string text = ReadOut(path);
+  EXPECT_NE(text.find("<section name=\"Item2\">"), std::string::npos);
+  EXPECT_EQ(text.find("Item3"), std::string::npos);
+  EXPECT_TRUE(WellFormed(path));
+  EXPECT_TRUE(WasAsked("Process canceled."));
+}
+
 TEST_F(ListExportTest, XmlOfAnEmptyListHasOnlyTheHead) {
   Fill();
   const std::string path = (dir.path() / "empty.xml").string();
