@@ -46,12 +46,12 @@ class FolderAttributeReader {
   FolderAttributeReader(const std::filesystem::path& folder, int folder_fd);
 
   // The word of the entry `name` whose stat (links followed) gave `mode`.
+  // Safe to call from several threads at once.
   int Read(const std::string& name, unsigned mode) const;
 
  private:
   std::filesystem::path folder_;
-  mutable std::string path_buffer_;  // the folder, "/", and the name of the entry read last
-  std::size_t folder_prefix_ = 0;
+  std::string folder_text_;  // the folder and "/"
   bool fat_ = false;
   bool extended_attributes_ = true;
 };

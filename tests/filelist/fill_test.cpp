@@ -5,6 +5,7 @@
 #include <sys/xattr.h>
 #include <unistd.h>
 
+#include <cstdio>
 #include <fstream>
 
 #include "filelist/fill_fixture.h"
@@ -109,6 +110,33 @@ TEST_F(FillTest, HiddenFilesFollowTheExactAttributeValues) {
   state_.ShowHiddenFlag = 1;
   Fill();
   EXPECT_THAT(Names(), ElementsAre(".hidden", ".locked", "plain"));
+  EXPECT_EQ(list_.Text(0, fc::kAttributes), "HA");
+}
+
+// A folder large enough to be read in several chunks, each shared by two
+// threads: every entry comes once, with its own facts, in name order.
+TEST_F(FillTest, ALargeFolderIsReadWholeWithEachEntrysOwnFacts) {
+  constexpr int kFiles = 9000;
+  std::vector<std::string> expected;
+  for (int i = 0; i < kFiles; ++i) {
+    char name[32];
+    std::snprintf(name, sizeof name, i % 1000 == 7 ? ".f%05d" : "f%05d.txt", i);
+    Write(name, std::string(static_cast<std::size_t>(i % 13), 'x'));
+    if (name[0] != '.') expected.push_back(name);
+  }
+  ASSERT_EQ(::symlink("nowhere", (root() / "g_dangling").c_str()), 0);
+  expected.push_back("g_dangling");
+  Fill();
+  EXPECT_EQ(Names(), expected);
+  for (std::size_t row : {std::size_t{0}, std::size_t{4097}, expected.size() - 2}) {
+    const int number = std::stoi(expected[row].substr(1, 5));
+    EXPECT_EQ(list_.rows()[row].size, static_cast<std::uint32_t>(number % 13)) << expected[row];
+    EXPECT_EQ(list_.Text(row, fc::kAttributes), "A");
+  }
+  state_.ShowHiddenFlag = 1;
+  Fill();
+  EXPECT_EQ(list_.size(), expected.size() + kFiles / 1000);
+  EXPECT_EQ(list_.Text(0, fc::kName), ".f00007");
   EXPECT_EQ(list_.Text(0, fc::kAttributes), "HA");
 }
 

@@ -94,9 +94,8 @@ FileResult<int> GetFileAttributes(const std::filesystem::path& path) {
 
 FolderAttributeReader::FolderAttributeReader(const std::filesystem::path& folder, int folder_fd)
     : folder_(folder), fat_(posix::FolderIsOnFat(folder_fd)) {
-  path_buffer_ = folder_.string();
-  if (path_buffer_.empty() || path_buffer_.back() != '/') path_buffer_ += '/';
-  folder_prefix_ = path_buffer_.size();
+  folder_text_ = folder_.string();
+  if (folder_text_.empty() || folder_text_.back() != '/') folder_text_ += '/';
   char value[1];
   if (::fgetxattr(folder_fd, kDosAttributes, value, 0) < 0 &&
       (errno == ENOTSUP || errno == EOPNOTSUPP)) {
@@ -107,12 +106,13 @@ FolderAttributeReader::FolderAttributeReader(const std::filesystem::path& folder
 int FolderAttributeReader::Read(const std::string& name, unsigned mode) const {
   std::optional<int> stored;
   if (extended_attributes_ || fat_) {
-    // Asked once per file of a fill: the path is put together in a buffer
-    // that keeps the folder, not parsed into a path object each time.
-    path_buffer_.resize(folder_prefix_);
-    path_buffer_ += name;
-    if (extended_attributes_) stored = posix::ReadDosAttributes(ReadRecord(path_buffer_.c_str()));
-    if (!stored && fat_) stored = posix::ReadFatAttributesOnFat(path_buffer_);
+    // Asked once per file of a fill, from several threads: the path is put
+    // together from the folder's text, not parsed into a path object.
+    std::string path;
+    path.reserve(folder_text_.size() + name.size());
+    path.append(folder_text_).append(name);
+    if (extended_attributes_) stored = posix::ReadDosAttributes(ReadRecord(path.c_str()));
+    if (!stored && fat_) stored = posix::ReadFatAttributesOnFat(path);
   }
   return ComposeWord(static_cast<mode_t>(mode), DotName(name), stored);
 }
