@@ -20,14 +20,30 @@
 namespace tarnwick::gui {
 namespace {
 
-// "OK" starts the export: the texts of the dialogue's own buttons.
-QDialogButtonBox* OkCancel(QDialog* dialog) {
+// The name, the title and the frame of column ticks both dialogues begin
+// with; returns the dialogue's layout.
+QVBoxLayout* BeginDialog(QDialog* dialog, const char* name, const char* title_key,
+                         const OptionStore& options, const MessageTable& messages,
+                         std::unique_ptr<ExportColumnTicks>& columns) {
+  dialog->setObjectName(name);
+  dialog->setWindowTitle(Msg(messages, title_key));
+  auto* layout = new QVBoxLayout(dialog);
+  auto* frame = new QGroupBox(Msg(messages, "export.columns_frame"), dialog);
+  columns = std::make_unique<ExportColumnTicks>(options, messages, frame);
+  layout->addWidget(frame);
+  return layout;
+}
+
+// "OK" starts the export, while a column is ticked; the texts of the
+// dialogue's own buttons.
+void EndDialog(QDialog* dialog, QVBoxLayout* layout, ExportColumnTicks& columns) {
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, dialog);
   buttons->button(QDialogButtonBox::Ok)->setObjectName("cmdOK");
   buttons->button(QDialogButtonBox::Cancel)->setObjectName("cmdCancel");
   QObject::connect(buttons, &QDialogButtonBox::accepted, dialog, &QDialog::accept);
   QObject::connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
-  return buttons;
+  columns.EnableWhenAny(buttons->button(QDialogButtonBox::Ok));
+  layout->addWidget(buttons);
 }
 
 }  // namespace
@@ -62,12 +78,8 @@ ExportColumns ExportColumnTicks::Chosen() const {
 SelectTextDialog::SelectTextDialog(const OptionStore& options, const MessageTable& messages,
                                    QWidget* parent)
     : QDialog(parent) {
-  setObjectName("frmSelectText");
-  setWindowTitle(Msg(messages, "export.select_text.title"));
-  auto* layout = new QVBoxLayout(this);
-  auto* frame = new QGroupBox(Msg(messages, "export.columns_frame"), this);
-  columns_ = std::make_unique<ExportColumnTicks>(options, messages, frame);
-  layout->addWidget(frame);
+  QVBoxLayout* layout = BeginDialog(this, "frmSelectText", "export.select_text.title", options,
+                                    messages, columns_);
 
   auto* rows = new QGridLayout;
   only_selected_ = Tick(messages, "export.only_selected", "chkOnlySelected", this);
@@ -113,9 +125,7 @@ SelectTextDialog::SelectTextDialog(const OptionStore& options, const MessageTabl
   layout->addWidget(delimiter_frame);
   connect(delimiter_, &QButtonGroup::idToggled, this, [this] { DelimiterChanged(); });
 
-  QDialogButtonBox* buttons = OkCancel(this);
-  columns_->EnableWhenAny(buttons->button(QDialogButtonBox::Ok));
-  layout->addWidget(buttons);
+  EndDialog(this, layout, *columns_);
   ShowChoices(ReadTextExportChoices(options));
 }
 
@@ -154,19 +164,13 @@ TextExportChoices SelectTextDialog::choices() const {
 SelectXmlDialog::SelectXmlDialog(const OptionStore& options, const MessageTable& messages,
                                  QWidget* parent)
     : QDialog(parent) {
-  setObjectName("frmSelectXML");
-  setWindowTitle(Msg(messages, "export.select_xml.title"));
-  auto* layout = new QVBoxLayout(this);
-  auto* frame = new QGroupBox(Msg(messages, "export.columns_frame"), this);
-  columns_ = std::make_unique<ExportColumnTicks>(options, messages, frame);
-  layout->addWidget(frame);
+  QVBoxLayout* layout = BeginDialog(this, "frmSelectXML", "export.select_xml.title", options,
+                                    messages, columns_);
   only_selected_ = Tick(messages, "export.only_selected", "chkOnlySelected", this);
   convert_ = Tick(messages, "export.parse_invalid_chars", "chkParseInvalidChars", this);
   layout->addWidget(only_selected_);
   layout->addWidget(convert_);
-  QDialogButtonBox* buttons = OkCancel(this);
-  columns_->EnableWhenAny(buttons->button(QDialogButtonBox::Ok));
-  layout->addWidget(buttons);
+  EndDialog(this, layout, *columns_);
   const XmlExportChoices stored = ReadXmlExportChoices(options);
   columns_->Show(stored.columns);
   only_selected_->setChecked(stored.only_selected);
