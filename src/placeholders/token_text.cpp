@@ -1,5 +1,6 @@
 #include "placeholders/token_text.h"
 
+#include <cstring>
 #include <utility>
 
 #include "base/text.h"
@@ -16,13 +17,28 @@ struct Hit {
   std::size_t length = 0;
 };
 
+bool MatchesAt(std::string_view text, std::size_t i, std::string_view find) {
+  std::size_t k = 1;
+  while (k < find.size() && LowerAscii(text[i + k]) == LowerAscii(find[k])) ++k;
+  return k == find.size();
+}
+
 Hit FindAscii(std::string_view text, std::string_view find, std::size_t from) {
+  if (find.size() > text.size()) return {};
+  const std::size_t last = text.size() - find.size();
   const char first = LowerAscii(find[0]);
-  for (std::size_t i = from; i + find.size() <= text.size(); ++i) {
-    if (LowerAscii(text[i]) != first) continue;
-    std::size_t k = 1;
-    while (k < find.size() && LowerAscii(text[i + k]) == LowerAscii(find[k])) ++k;
-    if (k == find.size()) return {i, find.size()};
+  // A token begins with a brace, which has no case: memchr jumps to each.
+  if (first < 'a' || first > 'z') {
+    for (std::size_t i = from; i <= last; ++i) {
+      const void* at = std::memchr(text.data() + i, first, last - i + 1);
+      if (at == nullptr) return {};
+      i = static_cast<std::size_t>(static_cast<const char*>(at) - text.data());
+      if (MatchesAt(text, i, find)) return {i, find.size()};
+    }
+    return {};
+  }
+  for (std::size_t i = from; i <= last; ++i) {
+    if (LowerAscii(text[i]) == first && MatchesAt(text, i, find)) return {i, find.size()};
   }
   return {};
 }
