@@ -7,7 +7,6 @@
 #include <pugixml.hpp>
 #include <sstream>
 #include <string>
-#include <unordered_map>
 
 #include "base/vb_error.h"
 #include "persist/option_store_file.h"
@@ -105,11 +104,6 @@ std::string ReadWholeFile(const std::string& path, bool& ok) {
 
 struct XMLConfiguration::Document {
   pugi::xml_document doc;
-  // The first section of each name, made at the first write and kept up to
-  // date as sections are added: a document of 100,000 sections is written
-  // without searching it once per value.
-  std::unordered_map<std::string, pugi::xml_node> sections;
-  bool sections_indexed = false;
 
   pugi::xml_node Root() const {
     const pugi::xml_node root = doc.document_element();
@@ -241,20 +235,13 @@ void XMLConfiguration::WriteValue(std::string_view section, std::string_view ite
   if (BreaksLookup(section) || BreaksLookup(item)) {
     Raise(vb_error::kInvalidProcedureCall, kBrokenLookup);
   }
-  if (!document_->sections_indexed) {
-    for (const pugi::xml_node child : root.children("section")) {
-      document_->sections.try_emplace(child.attribute("name").value(), child);
-    }
-    document_->sections_indexed = true;
-  }
-  const auto [place, added] = document_->sections.try_emplace(std::string(section));
-  if (added) {
+  pugi::xml_node section_node = FindNamed(root, "section", section);
+  if (!section_node) {
     AppendText(root, kBeforeSection);
-    place->second = root.append_child("section");
-    place->second.append_attribute("name") = std::string(section).c_str();
+    section_node = root.append_child("section");
+    section_node.append_attribute("name") = std::string(section).c_str();
     AppendText(root, kAfterSection);
   }
-  pugi::xml_node section_node = place->second;
   pugi::xml_node item_node = FindNamed(section_node, "item", item);
   if (!item_node) {
     const bool first = !section_node.child("item");
